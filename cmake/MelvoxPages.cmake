@@ -1,0 +1,15 @@
+# melvox_ui_page(Name): one line makes a page or dialog of the library from
+#   include/melvox_ui/Name.h, src/pages/Name.cpp, src/pages/Name_p.h (if there), src/forms/Name.ui (if there),
+# and its test from tests/pages/tst_Name.cpp.
+set_property(GLOBAL PROPERTY MELVOX_UI_PAGES "")
+
+function(melvox_ui_page name)
+    set_property(GLOBAL APPEND PROPERTY MELVOX_UI_PAGES ${name})
+    set(sources ${PROJECT_SOURCE_DIR}/include/melvox_ui/${name}.h ${PROJECT_SOURCE_DIR}/src/pages/${name}.cpp)
+    foreach(optional src/pages/${name}_p.h src/forms/${name}.ui)
+        if(EXISTS ${PROJECT_SOURCE_DIR}/${optional})
+            list(APPEND sources ${PROJECT_SOURCE_DIR}/${optional})
+        endif()
+    endforeach()
+    target_sources(melvox_ui PRIVATE ${sources})
+endfunction()

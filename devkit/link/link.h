@@ -1,0 +1,40 @@
+#ifndef MELVOX_LINK_LINK_H
+#define MELVOX_LINK_LINK_H
+
+#include "link/message.h"
+
+#include <QObject>
+#include <QString>
+
+namespace melvox_link
+{
+
+/** One end of a way to the other side. The display's end carries requests and commands away and reports and events
+ *  in; the receiver's end the other way round. */
+class link_t : public QObject
+{
+    Q_OBJECT
+
+public:
+    explicit link_t(QObject* parent = 0);
+    ~link_t();
+
+    virtual bool isOpen() const = 0;
+
+    /** What a person would call the other side: "simulated receiver", "tcp:192.168.0.7:5000". */
+    virtual QString description() const = 0;
+
+    /** Messages sent while the link is not open are lost. Never delivers inside the call. */
+    virtual void send(melvox_link::message_t const& message) = 0;
+
+signals:
+    void received(melvox_link::message_t const& message);
+    void openChanged(bool open);
+
+private:
+    Q_DISABLE_COPY(link_t)
+};
+
+} // namespace melvox_link
+
+#endif

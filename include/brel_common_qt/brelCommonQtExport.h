@@ -1,0 +1,12 @@
+#ifndef BREL_COMMON_QT_EXPORT_H
+#define BREL_COMMON_QT_EXPORT_H
+
+#include <QtGlobal>
+
+#ifdef BREL_COMMON_QT_BUILD
+#define BREL_COMMON_QT_EXPORT Q_DECL_EXPORT
+#else
+#define BREL_COMMON_QT_EXPORT Q_DECL_IMPORT
+#endif
+
+#endif

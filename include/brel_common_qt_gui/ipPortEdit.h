@@ -1,0 +1,35 @@
+#ifndef BREL_COMMON_QT_GUI_IP_PORT_EDIT_H
+#define BREL_COMMON_QT_GUI_IP_PORT_EDIT_H
+
+#include "brel_common_qt_gui/brelCommonQtGuiExport.h"
+
+#include <QObject>
+
+class QLineEdit;
+
+namespace brel_common_qt_gui
+{
+
+/** Turns a line edit into one for the number of an IP port. */
+class BREL_COMMON_QT_GUI_EXPORT ipPortEdit_t : public QObject
+{
+    Q_OBJECT
+
+public:
+    /** The line edit must live as long. */
+    ipPortEdit_t(QLineEdit* lineEdit, QObject* parent);
+
+    void setPort(unsigned short port);
+
+    /** False, and `port` untouched, unless the text is a decimal number of 0 to 65535. */
+    bool getPort(unsigned short& port) const;
+
+private:
+    Q_DISABLE_COPY(ipPortEdit_t)
+
+    QLineEdit* m_lineEdit;
+};
+
+} // namespace brel_common_qt_gui
+
+#endif

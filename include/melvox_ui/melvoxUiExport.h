@@ -1,0 +1,13 @@
+#ifndef MELVOX_UI_EXPORT_H
+#define MELVOX_UI_EXPORT_H
+
+#include <QtGlobal>
+
+/** Everything the library does not mark with this stays hidden in it. */
+#ifdef MELVOX_UI_BUILD
+#define MELVOX_UI_EXPORT Q_DECL_EXPORT
+#else
+#define MELVOX_UI_EXPORT Q_DECL_IMPORT
+#endif
+
+#endif
