@@ -5,6 +5,8 @@ namespace melvox_link
 
 link_t::link_t(QObject* parent) : QObject(parent)
 {
+    // For queued connections and signal spies.
+    qRegisterMetaType<message_t>("melvox_link::message_t");
 }
 
 link_t::~link_t()
