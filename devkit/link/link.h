@@ -18,6 +18,9 @@ struct line_t
     int stopBits;
 };
 
+/** "115200 8N1". */
+QString lineText(line_t const& line);
+
 /** One end of a way to the other side. The display's end carries requests and commands away and reports and events
  *  in; the receiver's end the other way round. */
 class link_t : public QObject
