@@ -75,6 +75,8 @@ private slots:
     void takesAnEthernetCommandWithoutDhcpAsManual();
     void makesABaseStandStill();
     void refusesABaseWithoutAStationId();
+    void refusesABaseWithoutAPort();
+    void needsNoPortAsARover();
     void keepsRtcm23AsABase();
     void deletesTheUserSatellite();
     void selectsTheUserSatelliteOnceDefined();
@@ -84,6 +86,7 @@ private slots:
     void holdsOutputIntervalsWithinItsLimits_data();
     void holdsOutputIntervalsWithinItsLimits();
     void turnsAMessageOff();
+    void needsNoIntervalToTurnAMessageOff();
     void turnsAllMessagesOfAPortOff();
     void ignoresAnUnknownOutputMessage();
     void switchesTheModemInItsTime();
@@ -391,6 +394,21 @@ void tst_receiver::refusesABaseWithoutAStationId()
     QCOMPARE(display->last("diffConfig"), before);
 }
 
+void tst_receiver::refusesABaseWithoutAPort()
+{
+    QVariant const before = receiver->setting("diffConfig");
+    display->command("diffConfig",
+                     QVariantMap{{"mode", 1}, {"stationId", 7}, {"dynamic", false}, {"port", 14}, {"portSet", true}});
+    QCOMPARE(display->last("diffConfig"), before);
+}
+
+void tst_receiver::needsNoPortAsARover()
+{
+    display->command("diffConfig",
+                     QVariantMap{{"mode", 0}, {"stationId", 7}, {"dynamic", false}, {"port", 14}, {"portSet", true}});
+    QCOMPARE(display->texts(), QStringList("diffConfig dynamic=false mode=0 port=1 portSet=false stationId=7"));
+}
+
 void tst_receiver::keepsRtcm23AsABase()
 {
     display->command("rtcmVersion", 1);
@@ -484,6 +502,12 @@ void tst_receiver::turnsAMessageOff()
     display->request("outputs");
     for (QString const& text : display->texts())
         QVERIFY2(!text.contains("NMEAGGA") || !text.contains("port=1"), qPrintable(text));
+}
+
+void tst_receiver::needsNoIntervalToTurnAMessageOff()
+{
+    display->command("output", output(1, "NMEAGGA", 0, std::nan("")));
+    QCOMPARE(display->texts(), QStringList("output interval=0 message=NMEAGGA method=0 port=1"));
 }
 
 void tst_receiver::turnsAllMessagesOfAPortOff()
