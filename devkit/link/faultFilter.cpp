@@ -69,6 +69,17 @@ QString faultFilter_t::description() const
     return m_link ? m_link->description() : QString();
 }
 
+bool faultFilter_t::line(line_t& line) const
+{
+    return m_link && m_link->line(line);
+}
+
+void faultFilter_t::setLine(line_t const& line)
+{
+    if (m_link)
+        m_link->setLine(line);
+}
+
 void faultFilter_t::send(message_t const& message)
 {
     if (isOpen())

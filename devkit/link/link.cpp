@@ -13,4 +13,18 @@ link_t::~link_t()
 {
 }
 
+bool link_t::line(line_t&) const
+{
+    return false;
+}
+
+void link_t::setLine(line_t const&)
+{
+}
+
+QString lineText(line_t const& line)
+{
+    return QString("%1 %2%3%4").arg(line.baud).arg(line.dataBits).arg(QChar(line.parity)).arg(line.stopBits);
+}
+
 } // namespace melvox_link

@@ -9,6 +9,18 @@
 namespace melvox_link
 {
 
+/** Line settings of a serial link. */
+struct line_t
+{
+    unsigned int baud;
+    int dataBits;
+    char parity; //!< 'N', 'O' or 'E'
+    int stopBits;
+};
+
+/** "115200 8N1". */
+QString lineText(line_t const& line);
+
 /** One end of a way to the other side. The display's end carries requests and commands away and reports and events
  *  in; the receiver's end the other way round. */
 class link_t : public QObject
@@ -26,6 +38,11 @@ public:
 
     /** Messages sent while the link is not open are lost. Never delivers inside the call. */
     virtual void send(melvox_link::message_t const& message) = 0;
+
+    /** The line settings of a serial link; false for any other. */
+    virtual bool line(melvox_link::line_t& line) const;
+    /** Takes effect once what was sent before has gone out. Nothing happens on a link that is not serial. */
+    virtual void setLine(melvox_link::line_t const& line);
 
 signals:
     void received(melvox_link::message_t const& message);

@@ -28,6 +28,17 @@ QString linkTap_t::description() const
     return m_link ? m_link->description() : QString();
 }
 
+bool linkTap_t::line(line_t& line) const
+{
+    return m_link && m_link->line(line);
+}
+
+void linkTap_t::setLine(line_t const& line)
+{
+    if (m_link)
+        m_link->setLine(line);
+}
+
 void linkTap_t::send(message_t const& message)
 {
     if (!isOpen())

@@ -21,6 +21,8 @@ public:
     bool isOpen() const override;
     QString description() const override;
     void send(melvox_link::message_t const& message) override;
+    bool line(melvox_link::line_t& line) const override;
+    void setLine(melvox_link::line_t const& line) override;
 
 signals:
     /** Comes before the message is handed on. */

@@ -4,7 +4,7 @@ namespace melvox_link
 {
 
 localLink_t::localLink_t(QString const& description, QObject* parent)
-    : link_t(parent), m_description(description), m_open(true), m_latency(0)
+    : link_t(parent), m_description(description), m_open(true), m_serial(false), m_line(), m_latency(0)
 {
     m_clock.start();
     m_timer.setSingleShot(true);
@@ -23,6 +23,26 @@ bool localLink_t::isOpen() const
 QString localLink_t::description() const
 {
     return m_description;
+}
+
+bool localLink_t::line(line_t& line) const
+{
+    if (m_serial)
+        line = m_line;
+    return m_serial;
+}
+
+void localLink_t::setLine(line_t const& line)
+{
+    if (!m_serial)
+        return;
+    m_line = line;
+}
+
+void localLink_t::makeSerial(line_t const& line)
+{
+    m_serial = true;
+    m_line = line;
 }
 
 void localLink_t::send(message_t const& message)

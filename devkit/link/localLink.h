@@ -23,6 +23,11 @@ public:
     bool isOpen() const override;
     QString description() const override;
     void send(melvox_link::message_t const& message) override;
+    bool line(melvox_link::line_t& line) const override;
+    void setLine(melvox_link::line_t const& line) override;
+
+    /** Makes this end one of a serial line; without it the link is of no such kind. */
+    void makeSerial(melvox_link::line_t const& line);
 
     /** Opens or closes the link for both ends; both hear of it before this returns. What is under way is lost. */
     void setOpen(bool open);
@@ -48,6 +53,8 @@ private:
     QString m_description;
     QPointer<localLink_t> m_peer;
     bool m_open;
+    bool m_serial;
+    line_t m_line;
     int m_latency;
     QList<waiting_t> m_waiting;
     QElapsedTimer m_clock;

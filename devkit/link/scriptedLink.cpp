@@ -3,7 +3,7 @@
 namespace melvox_link
 {
 
-scriptedLink_t::scriptedLink_t(QObject* parent) : link_t(parent), m_open(true)
+scriptedLink_t::scriptedLink_t(QObject* parent) : link_t(parent), m_open(true), m_serial(false), m_line()
 {
 }
 
@@ -19,6 +19,32 @@ bool scriptedLink_t::isOpen() const
 QString scriptedLink_t::description() const
 {
     return "scripted receiver";
+}
+
+bool scriptedLink_t::line(line_t& line) const
+{
+    if (m_serial)
+        line = m_line;
+    return m_serial;
+}
+
+void scriptedLink_t::setLine(line_t const& line)
+{
+    if (!m_serial)
+        return;
+    m_line = line;
+    m_lines << lineText(line);
+}
+
+void scriptedLink_t::makeSerial(line_t const& line)
+{
+    m_serial = true;
+    m_line = line;
+}
+
+QStringList scriptedLink_t::lines() const
+{
+    return m_lines;
 }
 
 void scriptedLink_t::send(message_t const& message)
@@ -85,6 +111,7 @@ QStringList scriptedLink_t::requests() const
 void scriptedLink_t::clear()
 {
     m_messages.clear();
+    m_lines.clear();
 }
 
 } // namespace melvox_link

@@ -23,8 +23,15 @@ public:
     bool isOpen() const override;
     QString description() const override;
     void send(melvox_link::message_t const& message) override;
+    bool line(melvox_link::line_t& line) const override;
+    void setLine(melvox_link::line_t const& line) override;
 
     void setOpen(bool open);
+
+    /** Makes the link one over a serial line; at first it is of no such kind. */
+    void makeSerial(melvox_link::line_t const& line);
+    /** The line settings that were set since the beginning or clear(), such as "115200 8N1". */
+    QStringList lines() const;
 
     /** The receiver speaks: received() is out when this returns. Nothing passes while the link is closed. */
     void report(QString const& group, QVariant const& value = QVariant());
@@ -39,6 +46,9 @@ public:
 
 private:
     bool m_open;
+    bool m_serial;
+    line_t m_line;
+    QStringList m_lines;
     QList<message_t> m_messages;
 };
 

@@ -14,14 +14,14 @@ namespace brel_common_qt
 {
 
 /** How the line between the two antennas lies relative to the vehicle. */
-enum melvoxAntennaAlignmentMode_t
+enum melvoxAntennaAlignmentMode_t : int
 {
     MELVOX_ANT_ALIGN_MODE_LATERAL = 0,
     MELVOX_ANT_ALIGN_MODE_LONGITUDINAL = 1,
     MELVOX_ANT_ALIGN_MODE_USER_SPECIFIED = 2 //!< at the user angle
 };
 
-enum melvoxAntenna_t
+enum melvoxAntenna_t : int
 {
     MELVOX_ANTENNA_FIRST = 0,
     MELVOX_ANTENNA_SECOND = 1,

@@ -38,25 +38,25 @@ struct melvoxCorrectionSat_t
 typedef std::map<unsigned short, melvoxCorrectionSatStats_t> melvoxCorrectionSatStatsMap_t;
 typedef std::map<unsigned short, melvoxCorrectionSat_t> melvoxCorrectionSatMap_t;
 
-enum melvoxCorrectionSelection_t
+enum melvoxCorrectionSelection_t : int
 {
     MELVOX_CORRECTION_SELECTION_DEFAULT = 0,
     MELVOX_CORRECTION_SELECTION_SECONDARY = 1
 };
 
-enum melvoxNetPriority_t
+enum melvoxNetPriority_t : int
 {
     MELVOX_NET_PRIORITY_NET1 = 0,
     MELVOX_NET_PRIORITY_NET2 = 1
 };
 
-enum melvoxRtgUseMode_t
+enum melvoxRtgUseMode_t : int
 {
     MELVOX_RTG_USE_MODE_OFF = 0,
     MELVOX_RTG_USE_MODE_ON = 1
 };
 
-enum melvoxStarfireAlmSwitchMode_t
+enum melvoxStarfireAlmSwitchMode_t : int
 {
     MELVOX_STARFIRE_ALM_SWITCH_MODE_AUTO = 0,
     MELVOX_STARFIRE_ALM_SWITCH_MODE_MANUAL = 1

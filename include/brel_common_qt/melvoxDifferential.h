@@ -10,7 +10,7 @@
 namespace brel_common_qt
 {
 
-enum melvoxDiffMode_t
+enum melvoxDiffMode_t : int
 {
     MELVOX_DIFF_MODE_ROVER_RTCM = 0,
     MELVOX_DIFF_MODE_BASE_MIN = 1,
@@ -19,7 +19,7 @@ enum melvoxDiffMode_t
     NUM_MELVOX_DIFF_MODES = 3
 };
 
-enum melvoxRtcmVersion_t
+enum melvoxRtcmVersion_t : int
 {
     MELVOX_RTCM_VERSION_32 = 0,
     MELVOX_RTCM_VERSION_23 = 1

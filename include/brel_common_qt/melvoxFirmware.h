@@ -14,7 +14,7 @@
 namespace brel_common_qt
 {
 
-enum melvoxFirmwareComponent_t
+enum melvoxFirmwareComponent_t : int
 {
     MELVOX_FW_COMP_MIN = 0,
     MELVOX_FW_COMP_BOOT1 = 0,
@@ -38,7 +38,7 @@ enum melvoxFirmwareComponent_t
     MELVOX_FW_UNKNOWN_COMPONENT = 255
 };
 
-enum melvoxFirmwareUpdateStatus_t
+enum melvoxFirmwareUpdateStatus_t : int
 {
     MELVOX_FWU_STATUS_NOT_STARTED = 0,
     MELVOX_FWU_STATUS_IN_PROGRESS = 1,
@@ -47,7 +47,7 @@ enum melvoxFirmwareUpdateStatus_t
     NUM_MELVOX_FWU_STATUS = 4
 };
 
-enum firmwareUpdateState_t
+enum firmwareUpdateState_t : int
 {
     FIRMWARE_UPDATE_ERROR = 0,
     FIRMWARE_UPDATE_IN_PROGRESS = 1,

@@ -27,7 +27,7 @@ struct meas_t
 /** The receiver's whole table. */
 typedef QList<meas_t> measUse_t;
 
-enum melvoxDynamicMode_t
+enum melvoxDynamicMode_t : int
 {
     MELVOX_DYN_MODE_STATIC = 0,
     MELVOX_DYN_MODE_LOW = 1,
@@ -43,7 +43,7 @@ struct melvoxDynamicConfig_t
     bool velocitySmoothing;   //!< meaningful while autoMode is true
 };
 
-enum melvoxNavMode_t
+enum melvoxNavMode_t : int
 {
     MELVOX_NAV_MODE_NON_DIFF = 0,
     MELVOX_NAV_MODE_DGPS = 1,
@@ -57,7 +57,7 @@ enum melvoxNavMode_t
 };
 
 /** Where the corrections of the solution come from; read against the mode. */
-enum melvoxNavSource_t
+enum melvoxNavSource_t : int
 {
     // differential modes
     MELVOX_NAV_SOURCE_DGPS_WAAS = 0,

@@ -7,7 +7,7 @@
 namespace brel_common_qt
 {
 
-enum melvoxEthernetConfigSource_t
+enum melvoxEthernetConfigSource_t : int
 {
     MELVOX_ETH_CFG_SOURCE_CABLE = 0,
     MELVOX_ETH_CFG_SOURCE_WIFI = 1,
@@ -25,7 +25,7 @@ struct ethernetConfig_t
     unsigned int dns2;
 };
 
-enum melvoxWebUiUploadState_t
+enum melvoxWebUiUploadState_t : int
 {
     MELVOX_WEB_UI_UPLOAD_ERROR = 0,
     MELVOX_WEB_UI_UPLOAD_IN_PROGRESS = 1,

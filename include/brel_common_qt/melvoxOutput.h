@@ -13,7 +13,7 @@
 namespace brel_common_qt
 {
 
-enum melvoxOutputMethod_t
+enum melvoxOutputMethod_t : int
 {
     MELVOX_OUTPUT_METHOD_OFF = 0,
     MELVOX_OUTPUT_METHOD_INTERVAL = 1
@@ -38,27 +38,27 @@ struct PortTxRxInfo
     float rxUsage; //!< percent
 };
 
-enum melvoxGgaMode_t
+enum melvoxGgaMode_t : int
 {
     MELVOX_GGA_MODE_HIGH_PRECISION = 0,
     MELVOX_GGA_MODE_STANDARD = 1
 };
 
-enum ggaQuality_t
+enum ggaQuality_t : int
 {
     GGA_QUALITY_UNKNOWN = 0,
     GGA_QUALITY_DIFF_SPS = 1,
     GGA_QUALITY_RTK = 2
 };
 
-enum melvoxGgaCorrectionsScaling_t
+enum melvoxGgaCorrectionsScaling_t : int
 {
     MELVOX_GGA_CORRECTIONS_UNSCALED = 0,
     MELVOX_GGA_CORRECTIONS_SCALED = 1,
     MELVOX_GGA_CORRECTIONS_SUPERSCALED = 2
 };
 
-enum melvoxTalkerIdMode_t
+enum melvoxTalkerIdMode_t : int
 {
     MELVOX_TALKER_ID_MODE_OFF = 0,
     MELVOX_TALKER_ID_MODE_GP = 1,

@@ -11,7 +11,7 @@ namespace brel_common_qt
 
 /** The receiver's ports in its own numbering, which also serves as an index.
  *  Loops run from MELVOX_PORT_FIRST while below MELVOX_NUM_PORTS. */
-enum melvoxPort_t
+enum melvoxPort_t : int
 {
     MELVOX_PORT_COM1 = 0,
     MELVOX_PORT_FIRST = MELVOX_PORT_COM1,

@@ -7,26 +7,26 @@
 namespace brel_common_qt
 {
 
-enum charSize_t
+enum charSize_t : int
 {
     CHAR_SIZE_7 = 0,
     CHAR_SIZE_8 = 1
 };
 
-enum parity_t
+enum parity_t : int
 {
     PARITY_N = 0,
     PARITY_O = 1,
     PARITY_E = 2
 };
 
-enum stopBits_t
+enum stopBits_t : int
 {
     STOP_1 = 0,
     STOP_2 = 1
 };
 
-enum flow_t
+enum flow_t : int
 {
     FLOW_NONE = 0,
     FLOW_BREL = 1
@@ -40,7 +40,7 @@ struct melvoxSerialPortConfig_t
     stopBits_t stopBits;
 };
 
-enum melvoxVcomMode_t
+enum melvoxVcomMode_t : int
 {
     MODE_UDP_RESTRICT = 0,
     MODE_TCP_REGULAR = 1
@@ -55,7 +55,7 @@ struct melvoxVcomConfig_t
     unsigned short localPort;
 };
 
-enum melvoxUsbMode_t
+enum melvoxUsbMode_t : int
 {
     MELVOX_USB_MODE_SERIAL_PORT = 0,
     MELVOX_USB_MODE_DRIVE = 1

@@ -8,27 +8,27 @@ namespace brel_common_qt
 {
 
 /** The correction inputs. */
-enum melvoxCorrectionType_t
+enum melvoxCorrectionType_t : int
 {
     MELVOX_CORR_TYPE_RTCM19 = 0, //!< RTCM code corrections
     MELVOX_CORR_TYPE_SBAS = 1,   //!< WAAS, EGNOS and the like
     MELVOX_CORR_TYPE_RTG = 2
 };
 
-enum melvoxGeoidalModel_t
+enum melvoxGeoidalModel_t : int
 {
     MELVOX_GEOIDAL_MODEL_NONE = 0,
     MELVOX_GEOIDAL_MODEL_EGM96 = 1,
     MELVOX_GEOIDAL_MODEL_DEFAULT = 2
 };
 
-enum melvoxNtripPPPMode_t
+enum melvoxNtripPPPMode_t : int
 {
     MELVOX_NTRIP_PPP_MODE_OFF = 0,
     MELVOX_NTRIP_PPP_MODE_ON = 1
 };
 
-enum melvoxNtripPPPProtocol_t
+enum melvoxNtripPPPProtocol_t : int
 {
     MELVOX_NTRIP_PPP_MODE_HTTP = 0,
     MELVOX_NTRIP_PPP_MODE_HTTPS = 1

@@ -15,7 +15,7 @@ namespace brel_common_qt
 {
 
 /** Who has the link to the receiver for himself. */
-enum portLock_t
+enum portLock_t : int
 {
     PORT_LOCK_NONE = 0,
     PORT_LOCK_FRAMEWORK = 1,
@@ -23,7 +23,7 @@ enum portLock_t
 };
 
 /** Result of one remotePort_t::uploadData(). */
-enum uploadStatus_t
+enum uploadStatus_t : int
 {
     UPLOAD_OK = 0,
     UPLOAD_ERROR = 1,

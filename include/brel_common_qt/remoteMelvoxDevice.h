@@ -27,6 +27,9 @@
 namespace brel_common_qt
 {
 
+/** A firmware component's name and the text of its version. */
+typedef std::pair<std::string, std::string> melvoxFirmwareVersion_t;
+
 /** The receiver proxy: the one way from a page to the receiver.
  *
  *  The host creates it before any page and keeps it longer than every page. For each group X of settings:
@@ -265,7 +268,7 @@ public:
     std::string const& modelName() const;
 
     /** Component names and version texts, in the order in which the receiver told of them first. */
-    QList<std::pair<std::string, std::string>> const& firmwareVersions() const;
+    QList<brel_common_qt::melvoxFirmwareVersion_t> const& firmwareVersions() const;
 
     /** Updates the components in their order. `combinedPath` names the one file that holds them all, or is empty when
      *  each component has its own path. The caller holds the port lock. */

@@ -5,7 +5,7 @@ namespace brel_common_qt
 {
 
 /** How the operator reads latitudes and longitudes. */
-enum latLonFormat_t
+enum latLonFormat_t : int
 {
     LATLON_FORMAT_DEGREE = 0,
     LATLON_FORMAT_DEGMIN = 1,
@@ -13,7 +13,7 @@ enum latLonFormat_t
 };
 
 /** How the operator reads heights and distances; the receiver always speaks metres. */
-enum distanceUnit_t
+enum distanceUnit_t : int
 {
     DISTANCE_UNIT_METER = 0,
     DISTANCE_UNIT_US_SURVEY_FOOT = 1 //!< 1200/3937 m

@@ -18,7 +18,8 @@ public:
     virtual ~dialogHost_t();
 
     /** Show this dialog until it is finished. The dialog stays its owner's: it may be destroyed at any time, is shown
-     *  again later, and must be hidden, not deleted, when it is finished. */
+     *  again later, and must be hidden, not deleted, when it is finished. Called for a dialog that is shown already:
+     *  bring it to the front. */
     virtual void showDialog(QDialog* dialog) = 0;
 };
 
@@ -32,7 +33,8 @@ public:
     explicit dialogPage_t(QDialog* dialog);
     ~dialogPage_t();
 
-    /** Returns at once. */
+    /** Returns at once; the dialog's own signals tell the outcome. While it is shown this brings it to the front, and
+     *  does nothing once the dialog was deleted. */
     void show();
 
     /** The host, null for none; not owned. Set before the first page is shown. */

@@ -3,6 +3,7 @@
 
 #include "brel_common_qt_gui/brelCommonQtGuiExport.h"
 
+#include <QIODevice>
 #include <QString>
 #include <QTextStream>
 
@@ -27,7 +28,8 @@ public:
     QString const& customTitle() const { return m_customTitle; }
     void setCustomTitle(QString const& title) { m_customTitle = title; }
 
-    /** Shows the text in a message box and returns at once; shows nothing when there is no text. */
+    /** Shows the text in a message box, through the host of dialogPage_t if there is one, and returns at once; shows
+     *  nothing when there is no text. The box is on its own from then on and goes away when the operator closes it. */
     void report();
 
 private:

@@ -44,7 +44,7 @@ QtMsgHandler previous = 0;
 
 void handle(QtMsgType type, char const* text)
 {
-    if (type == QtDebugMsg)
+    if (type == QtDebugMsg || type == QtFatalMsg)
         std::fprintf(stderr, "%s\n", text);
     else
         take(QString::fromLocal8Bit(text));
@@ -66,7 +66,7 @@ QtMessageHandler previous = 0;
 
 void handle(QtMsgType type, QMessageLogContext const&, QString const& text)
 {
-    if (type == QtDebugMsg || type == QtInfoMsg)
+    if (type == QtDebugMsg || type == QtInfoMsg || type == QtFatalMsg)
         std::fprintf(stderr, "%s\n", qPrintable(text));
     else
         take(text);

@@ -1,0 +1,140 @@
+#ifndef MELVOX_KIT_REMOTE_MELVOX_DEVICE_P_H
+#define MELVOX_KIT_REMOTE_MELVOX_DEVICE_P_H
+
+#include "brel_common_qt/remoteMelvoxDevice.h"
+#include "melvoxFiles.h"
+#include "portEndpoint.h"
+
+#include <QSet>
+
+#include <functional>
+#include <map>
+
+namespace melvox_kit
+{
+
+/** The last answer for a group, if there was one. */
+template <typename value_t> struct cached_t
+{
+    cached_t() : valid(false), value() {}
+
+    bool valid;
+    value_t value;
+};
+
+/** Brings the port's messages to the proxy. */
+class messageTaker_t : public QObject
+{
+    Q_OBJECT
+
+public:
+    typedef std::function<void(melvox_link::message_t const&)> taker_t;
+
+    explicit messageTaker_t(taker_t const& taker) : m_taker(taker) {}
+
+private slots:
+    void take(melvox_link::message_t const& message) { m_taker(message); }
+
+private:
+    taker_t m_taker;
+};
+
+} // namespace melvox_kit
+
+namespace brel_common_qt
+{
+
+struct remoteMelvoxDevice_t::privateData_t
+{
+    privateData_t(remoteMelvoxDevice_t* device_, melvox_kit::portEndpoint_t* endpoint_);
+
+    void request(char const* group);
+    void command(char const* group, QVariant const& value = QVariant());
+    /** Belongs to a transfer that holds the lock. */
+    void commandNow(char const* group, QVariant const& value);
+
+    void takeOrLog(melvox_link::message_t const& message);
+    /** Takes a message in: fills the cache, then emits the group's signal. False when nobody knows the group or the
+     *  value is not of its shape; the cache is then as it was. */
+    bool take(melvox_link::message_t const& message);
+
+    struct replyTable_t;
+
+    bool sendFileBlock(QVariant const& wanted);
+    bool takeProfileDump(QVariant const& value);
+
+    remoteMelvoxDevice_t* device;
+    melvox_kit::portEndpoint_t* endpoint;
+    melvox_kit::messageTaker_t taker;
+
+    melvox_kit::cached_t<double> elevationMask;
+    melvox_kit::cached_t<double> pdopLimit;
+    melvox_kit::cached_t<melvoxGeoidalModel_t> geoidalModel;
+    std::map<melvoxCorrectionType_t, bool> correctionEnabled;
+    std::map<melvoxCorrectionType_t, unsigned int> correctionMaxAge;
+    melvox_kit::cached_t<melvoxNtripPPP_t> ntripPPP;
+
+    measUse_t measUse;
+    melvox_kit::cached_t<melvoxDynamicConfig_t> dynamicConfig;
+    melvox_kit::cached_t<melvoxExtendedNavInfo_t> extendedNavInfo;
+
+    melvox_kit::cached_t<melvoxAntennaAlignmentMode_t> antennaAlignmentMode;
+    float antennaAlignmentUserAngle;
+    bool antennaInfoValid;
+    melvoxAntennaInfo_t antennaInfo[MELVOX_NUM_ANTENNAS];
+    bool antennaHeightValid;
+    melvoxAntennaHeight_t antennaHeight[MELVOX_NUM_ANTENNAS];
+    melvox_kit::cached_t<melvoxAntennaRemote_t> antennaRemote;
+    melvox_kit::cached_t<melvoxAntennaDualMode_t> antennaDualMode;
+    QStringList antennaList;
+
+    melvox_kit::cached_t<melvoxCorrectionSelection_t> correctionSelection;
+    melvox_kit::cached_t<melvoxNetPriority_t> netPriority;
+    melvox_kit::cached_t<melvoxRtgUseMode_t> rtgUseMode;
+    melvoxCorrectionSatMap_t correctionSats;
+    melvoxCorrectionSatStatsMap_t correctionSatStats;
+    melvox_kit::cached_t<unsigned int> correctionSatInUse;
+    melvox_kit::cached_t<bool> correctionSatAuto;
+    melvox_kit::cached_t<bool> userCorrectionSatDefined;
+    unsigned int userCorrectionSatId;
+    float userCorrectionSatFrequency;
+    melvox_kit::cached_t<melvoxMrvAlmanacInfo_t> mrvAlmanacInfo;
+    melvox_kit::cached_t<bool> newStarfireAlmReady;
+    melvox_kit::cached_t<melvoxStarfireAlmSwitchPolicy_t> starfireAlmSwitchPolicy;
+
+    melvox_kit::cached_t<melvoxDiffConfig_t> diffConfig;
+    melvox_kit::cached_t<melvoxRtcmVersion_t> rtcmVersion;
+    melvox_kit::cached_t<std::string> baseName;
+    melvox_kit::cached_t<melvoxBasePosition_t> basePosition;
+
+    melvox_kit::cached_t<melvoxPort_t> activePort;
+    std::map<melvoxPort_t, melvoxPortOutputs_t> outputs;
+    std::map<melvoxPort_t, PortTxRxInfo> portTxRxInfo;
+    melvox_kit::cached_t<melvoxGgaMode_t> ggaMode;
+    ggaQuality_t ggaQuality;
+    melvoxGgaCorrectionsScaling_t ggaCorrectionsScaling;
+    melvox_kit::cached_t<melvoxTalkerIdMode_t> talkerIdMode;
+    bool showDtmWarning;
+    melvox_kit::cached_t<melvoxUsbMode_t> usbMode;
+
+    melvox_kit::cached_t<ethernetConfig_t> ethernetConfig[MELVOX_NUM_ETH_CFG_SOURCES];
+    bool ethernetConfigDhcp[MELVOX_NUM_ETH_CFG_SOURCES];
+    melvox_kit::cached_t<bool> webUiEnabled;
+    melvoxWebUiUploadState_t webUiUploadState;
+    std::string webUiUploadDescription;
+
+    melvox_kit::cached_t<melvoxPpsConfig_t> ppsConfig;
+
+    bool productInfoValid;
+    std::string serialNumber;
+    std::string modelName;
+    QList<melvoxFirmwareVersion_t> firmwareVersions;
+    melvox_kit::cached_t<std::string> activeProfile;
+
+    melvox_kit::sentFiles_t sentFiles;
+    QSet<QString> dumps; //!< paths that dumps are under way for
+};
+
+} // namespace brel_common_qt
+
+#endif
