@@ -1,3 +1,4 @@
+#include "link/localLink.h"
 #include "receiver/antennas.h"
 #include "receiver/outputs.h"
 #include "receiver/profileText.h"
@@ -112,6 +113,10 @@ private slots:
     void drawsACombinedFirmwareFileOnce();
     void failsAFirmwareUpdateWhoseFileEndsEarly();
     void passesOverABlockThatCameTwice();
+    void failsTransfersOfFilesThatCannotBeRead();
+    void failsAnUpdateOfAnUnknownComponent();
+    void setsThePortOfTheLinkWithoutBeingToldWhich();
+    void followsTheSettingsOfItsSerialLine();
     void runsNoTimerWhileItRests();
 
 private:
@@ -838,6 +843,53 @@ void tst_receiver::passesOverABlockThatCameTwice()
     display->command("fileBlock", block("web.pkg", 16384, QByteArray(3616, 'b')));
     QCOMPARE(display->last("webUiUploadState").toMap().value("state"), QVariant(2));
     QCOMPARE(receiver->ignoredCount(), 0);
+}
+
+void tst_receiver::failsTransfersOfFilesThatCannotBeRead()
+{
+    display->command("startWebUiUpload", QVariantMap{{"path", "gone"}, {"size", -1.0}});
+    QCOMPARE(display->texts(), QStringList("webUiUploadState description=The package cannot be read state=0"));
+    display->command("startFirmwareUpdate",
+                     QVariantMap{{"components", QVariantList{component(2, "gone", -1)}}, {"combinedPath", ""}});
+    QCOMPARE(display->last("firmwareUpdateState"),
+             QVariant(QVariantMap{{"state", 0}, {"description", "The file for NAV cannot be read"}}));
+}
+
+void tst_receiver::failsAnUpdateOfAnUnknownComponent()
+{
+    display->command("startFirmwareUpdate",
+                     QVariantMap{{"components", QVariantList{component(255, "what", 5)}}, {"combinedPath", ""}});
+    QCOMPARE(display->last("firmwareUpdateState").toMap().value("state"), QVariant(0));
+}
+
+void tst_receiver::setsThePortOfTheLinkWithoutBeingToldWhich()
+{
+    receiver->setActivePort(display.data(), 3);
+    display->texts();
+    display->command("serialConfig", QVariantMap{{"baud", 4800}, {"charSize", 1}, {"parity", 1}, {"stopBits", 1}});
+    QCOMPARE(display->texts(), QStringList("serialConfig baud=4800 charSize=1 parity=1 port=3 stopBits=1"));
+    receiver->setActivePort(display.data(), 7);
+    display->texts();
+    display->command("serialConfig", QVariantMap{{"baud", 4800}, {"charSize", 1}, {"parity", 1}, {"stopBits", 1}});
+    QVERIFY(display->texts().isEmpty());
+    QCOMPARE(receiver->ignoredCount(), 1);
+}
+
+void tst_receiver::followsTheSettingsOfItsSerialLine()
+{
+    melvox_link::localLinkPair_t pair;
+    pair.receiverEnd()->makeSerial({115200, 8, 'N', 1});
+    receiver->addLink(pair.receiverEnd(), 1);
+    QCOMPARE(display->texts(), QStringList("serialConfig baud=115200 charSize=1 parity=0 port=1 stopBits=0"));
+    melvox_link::line_t line;
+    display->command("serialConfig",
+                     QVariantMap{{"port", 0}, {"baud", 4800}, {"charSize", 1}, {"parity", 1}, {"stopBits", 1}});
+    QVERIFY(pair.receiverEnd()->line(line));
+    QCOMPARE(melvox_link::lineText(line), QString("115200 8N1"));
+    display->command("serialConfig",
+                     QVariantMap{{"port", 1}, {"baud", 9600}, {"charSize", 0}, {"parity", 2}, {"stopBits", 1}});
+    QVERIFY(pair.receiverEnd()->line(line));
+    QCOMPARE(melvox_link::lineText(line), QString("9600 7E2"));
 }
 
 void tst_receiver::runsNoTimerWhileItRests()
