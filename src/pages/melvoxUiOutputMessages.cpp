@@ -46,7 +46,7 @@ char const* const CUSTOM_INTERVAL = "Custom Interval";
 char const* const NAK_MESSAGE = "??";
 char const* const NAK_DISPLAY_NAME = "NAK";
 
-melvoxPort_t const HIDE_PORTS[] = {MELVOX_PORT_USB2};
+melvoxPort_t const hidePorts[] = {MELVOX_PORT_USB2};
 
 char const* const DEFAULT_MESSAGES[] = {
     "NMEADTM",     "NMEAGBS",     "NMEAGGA",     "NMEAGLL",     "NMEAGNS",     "NMEAGRS", "NMEAGSA",
@@ -199,7 +199,7 @@ void melvoxUiOutputMessages_t::fillPorts()
 {
     for (int port = MELVOX_PORT_FIRST; port < MELVOX_NUM_PORTS; ++port)
     {
-        if (!isAmong(HIDE_PORTS, melvoxPort_t(port)))
+        if (!isAmong(hidePorts, melvoxPort_t(port)))
             m_data->ui.portsCombo->addItem(melvoxPortName(melvoxPort_t(port)));
     }
     // Until the control port is known, no port may be touched.
