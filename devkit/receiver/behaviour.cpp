@@ -23,6 +23,10 @@ void behaviour_t::settingChanged(QString const&)
 {
 }
 
+void behaviour_t::linkAttached(link_t*)
+{
+}
+
 void behaviour_t::linkClosed(link_t*)
 {
 }

@@ -28,6 +28,9 @@ public:
     /** A setting has changed, from whatever side, and its report is out. */
     virtual void settingChanged(QString const& group);
 
+    /** A display comes in over that link, or over another port than before. */
+    virtual void linkAttached(link_t* link);
+
     /** That display is gone. */
     virtual void linkClosed(link_t* link);
 

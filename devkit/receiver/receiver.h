@@ -42,6 +42,7 @@ public:
     /** The display hears of it. */
     void setActivePort(link_t* end, unsigned int port);
     unsigned int activePort(link_t* end) const;
+    QList<link_t*> links() const;
 
     simClock_t& clock() const;
 

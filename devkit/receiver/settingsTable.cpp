@@ -22,9 +22,10 @@ unsigned int address(unsigned int a, unsigned int b, unsigned int c, unsigned in
     return a << 24 | b << 16 | c << 8 | d;
 }
 
-rule_t port()
+/** NUM_PORTS itself is the number of no port. */
+rule_t portOrNone()
 {
-    return whole(0, NUM_PORTS - 1);
+    return whole(0, NUM_PORTS);
 }
 
 rule_t ipAddress()
@@ -148,7 +149,7 @@ bool adjustDiffConfig(settings_t const&, QVariant const& old, QVariant& taken)
     {
         config["dynamic"] = false;
         taken = config;
-        return config.value("stationId").toUInt() > 0;
+        return config.value("stationId").toUInt() > 0 && config.value("port").toUInt() < NUM_PORTS;
     }
     config["port"] = old.toMap().value("port");
     config["portSet"] = false;
@@ -391,7 +392,7 @@ QList<setting_t> correctionSettings()
               record({{"mode", whole(0, 2)},
                       {"stationId", whole(0, 1023)},
                       {"dynamic", flag()},
-                      {"port", port()},
+                      {"port", portOrNone()},
                       {"portSet", flag()}}),
               &adjustDiffConfig),
         plain("rtcmVersion", 0, whole(0, 1), &adjustRtcmVersion),
