@@ -25,6 +25,9 @@ public:
     virtual answer_t request(link_t* from, QString const& group);
     virtual answer_t command(link_t* from, QString const& group, QVariant const& value);
 
+    /** Something is another way around the receiver; each behaviour documents the names that are its business. */
+    virtual answer_t situation(QString const& name, QVariant const& value);
+
     /** A setting has changed, from whatever side, and its report is out. */
     virtual void settingChanged(QString const& group);
 

@@ -252,6 +252,17 @@ bool receiver_t::set(QString const& group, QVariant const& value)
     return true;
 }
 
+bool receiver_t::setSituation(QString const& name, QVariant const& value)
+{
+    for (auto const& behaviour : m_behaviours)
+    {
+        behaviour_t::answer_t const answer = behaviour->situation(name, value);
+        if (answer != behaviour_t::NOT_MINE)
+            return answer == behaviour_t::DONE;
+    }
+    return false;
+}
+
 void receiver_t::tellChanged(QString const& group)
 {
     for (auto const& behaviour : m_behaviours)

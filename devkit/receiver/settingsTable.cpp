@@ -33,7 +33,8 @@ rule_t ipAddress()
     return whole(0, 4294967295.0);
 }
 
-/** The receiver cannot position without GPS, whatever it is told; and it keeps its table of names. */
+/** The receiver cannot position without GPS and decides on BeiDou itself, whatever it is told; and it keeps its table of
+ *  names. */
 bool adjustMeasUse(settings_t const&, QVariant const& old, QVariant& taken)
 {
     QVariantList table = old.toList();
@@ -45,7 +46,9 @@ bool adjustMeasUse(settings_t const&, QVariant const& old, QVariant& taken)
             QString const name = item.toMap().value("name").toString();
             if (known.value("name").toString().compare(name, Qt::CaseInsensitive) != 0)
                 continue;
-            known["use"] = item.toMap().value("use").toBool() || known.value("name") == "GPS";
+            if (known.value("name") == "GPS" || known.value("name") == "BEI")
+                continue;
+            known["use"] = item.toMap().value("use").toBool();
             entry = known;
         }
     }

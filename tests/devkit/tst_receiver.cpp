@@ -71,7 +71,7 @@ private slots:
     void tellsADisplayOfItsNewPort();
     void goesOnWhenADisplayIsGone();
     void canBeSetFromItsOwnSide();
-    void keepsGpsInUse();
+    void keepsGpsAndBeidouAsTheyAre();
     void takesAddressesOverDhcp();
     void takesAnEthernetCommandWithoutDhcpAsManual();
     void makesABaseStandStill();
@@ -355,13 +355,14 @@ void tst_receiver::canBeSetFromItsOwnSide()
     QVERIFY(display->texts().isEmpty());
 }
 
-void tst_receiver::keepsGpsInUse()
+void tst_receiver::keepsGpsAndBeidouAsTheyAre()
 {
     display->command("measUse", QVariantList{QVariantMap{{"name", "GPS"}, {"use", false}},
                                              QVariantMap{{"name", "BEI"}, {"use", false}},
+                                             QVariantMap{{"name", "GLO"}, {"use", false}},
                                              QVariantMap{{"name", "QZSS"}, {"use", true}}});
-    QCOMPARE(display->texts(), QStringList("measUse [name=GPS use=true] [name=GLO use=true] [name=GAL use=true] "
-                                           "[name=BEI use=false]"));
+    QCOMPARE(display->texts(), QStringList("measUse [name=GPS use=true] [name=GLO use=false] [name=GAL use=true] "
+                                           "[name=BEI use=true]"));
 }
 
 void tst_receiver::takesAddressesOverDhcp()
