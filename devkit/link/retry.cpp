@@ -41,4 +41,9 @@ void retry_t::stop()
     succeeded();
 }
 
+int retry_t::nextPause() const
+{
+    return m_next;
+}
+
 } // namespace melvox_link

@@ -21,6 +21,9 @@ public:
     void succeeded();
     void stop();
 
+    /** How long the pause after the next failure is, in milliseconds. */
+    int nextPause() const;
+
 private:
     QTimer m_timer;
     int m_first;

@@ -9,13 +9,11 @@
 namespace melvox_link
 {
 
-/** A link over a serial line or a pseudo-terminal, 8 data bits, no parity, which opens again by itself when the device
- *  was gone. */
+/** A link over a serial line or a pseudo-terminal, with 8 data bits, no parity and 1 stop bit at first, which opens
+ *  again by itself when the device was gone. */
 class serialLink_t : public streamLink_t
 {
     Q_OBJECT
-    /** For those that know the link but not its kind. */
-    Q_PROPERTY(int baud READ baud WRITE setBaud)
 
 public:
     explicit serialLink_t(QString const& device, int baud = 115200, QObject* parent = nullptr);
@@ -25,9 +23,8 @@ public:
     void start();
     void stop();
 
-    /** Bits per second; takes effect at once. */
-    int baud() const;
-    void setBaud(int baud);
+    bool line(melvox_link::line_t& line) const override;
+    void setLine(melvox_link::line_t const& line) override;
 
     /** The first pause between attempts and the longest one, in milliseconds. */
     void setPauses(int first, int longest);
@@ -37,9 +34,13 @@ public:
 
 private:
     void openNow();
+    bool hasSentAll() const;
+    void applyLine();
     void handle(QSerialPort::SerialPortError error);
 
     QSerialPort m_port;
+    line_t m_line; //!< as it was set last, perhaps not yet in effect
+    QTimer m_lineTimer;
     retry_t m_retry;
     QString m_errorText;
     bool m_started;

@@ -45,6 +45,9 @@ class program_t
 public:
     program_t() : m_receiver(&m_clock), m_serialPorts(0), m_displays(0) {}
 
+    /** From now on the receiver tells its solution and its heading by itself. */
+    void report();
+
     bool listenTcp(QString const& text, QString& error);
     bool openPty(QString& error);
     bool openSerial(QString const& device, QString& error);
@@ -59,6 +62,12 @@ private:
     unsigned int m_serialPorts;
     unsigned int m_displays;
 };
+
+void program_t::report()
+{
+    m_receiver.setSituation("solutionReports", true);
+    m_receiver.setSituation("headingReports", true);
+}
 
 bool program_t::listenTcp(QString const& text, QString& error)
 {
@@ -160,6 +169,7 @@ int main(int argc, char** argv)
     parser.addOption({"tcp", tr("Listen on a TCP port of this machine, 0: any that is free."), "[address:]port"});
     parser.addOption({"pty", tr("Make a pseudo-terminal, a serial line without wires.")});
     parser.addOption({"serial", tr("Use a serial device."), "device"});
+    parser.addOption({"quiet", tr("Tell no solution and no heading unless asked.")});
 
     if (!parser.parse(QCoreApplication::arguments()))
     {
@@ -182,6 +192,8 @@ int main(int argc, char** argv)
     stopSignals_t stopSignals;
     QObject::connect(&stopSignals, &stopSignals_t::stop, &application, &QCoreApplication::quit);
     program_t program;
+    if (!parser.isSet("quiet"))
+        program.report();
     QString error;
     if (!openPlaces(program, parser, error))
         return fail(EXIT_FAILURE, error);

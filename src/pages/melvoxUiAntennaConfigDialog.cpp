@@ -3,9 +3,9 @@
 #include "brel_common_qt/remoteMelvoxDevice.h"
 #include "brel_common_qt_gui/errorText.h"
 #include "support/asciiText.h"
+#include "support/dialogButtons.h"
 #include "support/pageSupport.h"
 #include "support/qtCompat.h"
-#include "support/touchButtons.h"
 
 #include <cmath>
 
@@ -59,9 +59,7 @@ melvoxUiAntennaConfigDialog_t::melvoxUiAntennaConfigDialog_t(remoteMelvoxDevice_
 {
     Ui_melvoxUiAntennaConfigDialog& ui = m_data->ui;
     ui.setupUi(this);
-    enlargeButtons(ui.buttonBox);
-    connect(ui.buttonBox, SIGNAL(accepted()), SLOT(submit()));
-    connect(ui.buttonBox, SIGNAL(rejected()), SLOT(reject()));
+    connectDialogButtons(ui.buttonBox, this, SLOT(submit()));
     connect(ui.useAdjustmentsCombo, SIGNAL(currentIndexChanged(int)), SLOT(checkAdjust()));
     connect(device, SIGNAL(antennaListReset()), SLOT(initAntList()));
     connect(device, SIGNAL(antennaNameAdded(QString const&)), SLOT(addAntName(QString const&)));

@@ -21,7 +21,11 @@ namespace
 class program_t
 {
 public:
-    explicit program_t(QStringList const& arguments) { process.start(MELVOX_RECEIVER_PROGRAM, arguments); }
+    /** Unless wanted, without the reports that come by themselves: answers can then be counted. */
+    explicit program_t(QStringList const& arguments, bool reports = false)
+    {
+        process.start(MELVOX_RECEIVER_PROGRAM, reports ? arguments : QStringList("--quiet") + arguments);
+    }
     ~program_t()
     {
         process.kill();
@@ -67,6 +71,7 @@ class tst_receiverProgram : public melvox_test::test_t
 
 private slots:
     void answersOverTcp();
+    void tellsSolutionAndHeadingByItself();
     void answersOverAPseudoTerminal();
     void listensInSeveralPlaces();
     void tellsOneDisplayWhatAnotherOneChanged();
@@ -95,6 +100,16 @@ void tst_receiverProgram::answersOverTcp()
     link.send({message_t::COMMAND, "elevationMask", 95.0});
     QVERIFY(waitFor([&]() { return listener.texts.size() == 2; }));
     QCOMPARE(listener.texts, (QStringList{"report activePort 6", "report elevationMask 90"}));
+}
+
+void tst_receiverProgram::tellsSolutionAndHeadingByItself()
+{
+    program_t program({"--tcp", "0"}, true);
+    tcpLink_t link("127.0.0.1", quint16(program.tcpPort()));
+    linkListener_t listener(link);
+    link.start();
+    QVERIFY(waitFor([&]() { return !listener.texts.filter("report extendedNavInfo ").isEmpty(); }));
+    QVERIFY(waitFor([&]() { return !listener.texts.filter("report vhdInfo ").isEmpty(); }));
 }
 
 void tst_receiverProgram::answersOverAPseudoTerminal()
@@ -274,7 +289,7 @@ void tst_receiverProgram::listsItsOptions()
     QVERIFY(program.finishes());
     QCOMPARE(program.exitCode(), 0);
     QString const text = QString::fromUtf8(program.process.readAllStandardOutput());
-    for (char const* option : {"--tcp", "--pty", "--serial", "--help", "--version"})
+    for (char const* option : {"--tcp", "--pty", "--serial", "--quiet", "--help", "--version"})
         QVERIFY2(text.contains(option), option);
 }
 

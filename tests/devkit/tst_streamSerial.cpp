@@ -28,7 +28,9 @@ private slots:
     void closesAtTheFirstErrorWhenTheOtherSideIsGone();
     void opensAgainWhenTheDeviceIsBack();
     void staysClosedWithoutADevice();
-    void hasABaudRateThatCanBeSet();
+    void hasLineSettings();
+    void changesItsLineOnceEverythingIsSent();
+    void keepsItsLineSettingsWhenItOpensAgain();
     void describesItself();
     void makesLinksFromTheirDescriptions_data();
     void makesLinksFromTheirDescriptions();
@@ -164,18 +166,68 @@ void tst_streamSerial::staysClosedWithoutADevice()
     QVERIFY(listener.changes.isEmpty());
 }
 
-void tst_streamSerial::hasABaudRateThatCanBeSet()
+static QString lineOf(link_t const& link)
+{
+    line_t line = line_t();
+    return link.line(line) ? lineText(line) : QString("none");
+}
+
+/** The speed and the number of stop bits that the far side of a pseudo-terminal is set to. */
+static QPair<speed_t, bool> terminal(QString const& path)
+{
+    termios settings = termios();
+    int const handle = ::open(QFile::encodeName(path).constData(), O_RDWR | O_NOCTTY);
+    ::tcgetattr(handle, &settings);
+    ::close(handle);
+    return {::cfgetospeed(&settings), (settings.c_cflag & CSTOPB) != 0};
+}
+
+void tst_streamSerial::hasLineSettings()
 {
     ptyPort_t receiver;
     QVERIFY(receiver.create());
+    QCOMPARE(lineOf(receiver), QString("none"));
     serialLink_t display(receiver.path(), 9600);
-    QCOMPARE(display.baud(), 9600);
+    QCOMPARE(lineOf(display), QString("9600 8N1"));
     display.start();
     QVERIFY(display.isOpen());
-    link_t& link = display;
-    QVERIFY(link.setProperty("baud", 57600));
-    QCOMPARE(display.baud(), 57600);
+    // Only root may open what somebody else has for himself.
+    if (::geteuid() != 0)
+        return;
+    QCOMPARE(terminal(receiver.path()), qMakePair(speed_t(B9600), false));
+    display.setLine({57600, 8, 'N', 2});
+    QCOMPARE(lineOf(display), QString("57600 8N2"));
+    QVERIFY(waitFor([&]() { return terminal(receiver.path()) == qMakePair(speed_t(B57600), true); }));
     QVERIFY(display.isOpen());
+}
+
+void tst_streamSerial::changesItsLineOnceEverythingIsSent()
+{
+    ptyPort_t receiver;
+    QVERIFY(receiver.create());
+    linkListener_t listener(receiver);
+    serialLink_t display(receiver.path());
+    display.start();
+    QVERIFY(waitFor([&]() { return receiver.isOpen(); }));
+    display.send({message_t::COMMAND, "baseName", QString(30000, 'x')});
+    display.setLine({9600, 8, 'N', 1});
+    display.send({message_t::REQUEST, "baseName"});
+    QVERIFY(waitFor([&]() { return listener.texts.size() == 2; }));
+    QCOMPARE(lineOf(display), QString("9600 8N1"));
+}
+
+void tst_streamSerial::keepsItsLineSettingsWhenItOpensAgain()
+{
+    QTemporaryDir dir;
+    QString const device = dir.filePath("receiver");
+    serialLink_t display(device);
+    display.setPauses(5, 20);
+    display.start();
+    display.setLine({19200, 7, 'E', 2});
+    ptyPort_t receiver;
+    QVERIFY(receiver.create() && plugIn(receiver, device));
+    QVERIFY(waitFor([&]() { return display.isOpen(); }));
+    QCOMPARE(lineOf(display), QString("19200 7E2"));
 }
 
 void tst_streamSerial::describesItself()
@@ -191,27 +243,31 @@ void tst_streamSerial::makesLinksFromTheirDescriptions_data()
 {
     QTest::addColumn<QString>("text");
     QTest::addColumn<QString>("description");
-    QTest::addColumn<int>("baud");
+    QTest::addColumn<QString>("line");
     QTest::newRow("address") << "tcp:127.0.0.1:1"
-                             << "tcp:127.0.0.1:1" << 0;
+                             << "tcp:127.0.0.1:1"
+                             << "none";
     QTest::newRow("IPv6") << "tcp:[::1]:1"
-                          << "tcp:[::1]:1" << 0;
+                          << "tcp:[::1]:1"
+                          << "none";
     QTest::newRow("device") << "serial:/nowhere/ttyS9"
-                            << "serial:/nowhere/ttyS9" << 115200;
+                            << "serial:/nowhere/ttyS9"
+                            << "115200 8N1";
     QTest::newRow("device with baud rate") << "serial:/nowhere/ttyS9@9600"
-                                           << "serial:/nowhere/ttyS9" << 9600;
+                                           << "serial:/nowhere/ttyS9"
+                                           << "9600 8N1";
 }
 
 void tst_streamSerial::makesLinksFromTheirDescriptions()
 {
     QFETCH(QString, text);
     QFETCH(QString, description);
-    QFETCH(int, baud);
+    QFETCH(QString, line);
     QString error;
     QScopedPointer<link_t> const link(makeLink(text, error));
     QVERIFY2(link, qPrintable(error));
     QCOMPARE(link->description(), description);
-    QCOMPARE(link->property("baud").toInt(), baud);
+    QCOMPARE(lineOf(*link), line);
     QVERIFY(error.isEmpty());
 }
 

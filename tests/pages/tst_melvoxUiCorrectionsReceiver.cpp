@@ -17,8 +17,8 @@ namespace
 
 QVariantMap stat(int id, int status, double strength, double agc, double good, double idle, unsigned int resync)
 {
-    return map("id", id, "beam", id % 200 + 1, "status", status, "strength", strength, "agcVoltage", agc, "goodPercent", good,
-               "idlePercent", idle, "resyncCount", resync, "frequencyOffset", 12.5);
+    return map("id", id, "beam", id % 200 + 1, "status", status, "strength", strength, "agcVoltage", agc, "goodPercent",
+               good, "idlePercent", idle, "resyncCount", resync, "frequencyOffset", 12.5);
 }
 
 QVariantMap sat(int id)
