@@ -279,6 +279,11 @@ void receiver_t::change(QString const& group, QVariant const& value)
     tellChanged(group);
 }
 
+void receiver_t::obey(QString const& group, QVariant const& value)
+{
+    takeCommand(nullptr, message_t(message_t::COMMAND, group, value));
+}
+
 void receiver_t::restore(settings_t const& settings)
 {
     for (setting_t const& setting : settingsTable())
@@ -304,7 +309,8 @@ void receiver_t::report(QString const& group, QVariant const& value)
 
 void receiver_t::report(link_t* to, QString const& group, QVariant const& value)
 {
-    to->send(message_t(message_t::REPORT, group, value));
+    if (to)
+        to->send(message_t(message_t::REPORT, group, value));
 }
 
 void receiver_t::event(QString const& group, QVariant const& value)

@@ -65,6 +65,9 @@ public:
     /** Stores a value that needs no rule and reports it to all displays if it is another one. */
     void change(QString const& group, QVariant const& value);
 
+    /** The receiver tells itself, as a display would; nobody is answered, but what changes is reported. */
+    void obey(QString const& group, QVariant const& value);
+
     /** Takes the settings that displays can change over from a stored profile, each by its rule, and reports those that
      *  are others now. */
     void restore(settings_t const& settings);
