@@ -107,8 +107,8 @@ struct remoteMelvoxDevice_t::privateData_t::replyTable_t
         };
         replies["correctionEnabled"] = [](cache_t& c, QVariant const& v)
         {
-            melvoxCorrectionType_t type;
-            bool enabled;
+            melvoxCorrectionType_t type = melvoxCorrectionType_t();
+            bool enabled = false;
             if (!readField(v, "type", type) || !readField(v, "enabled", enabled))
                 return false;
             c.correctionEnabled[type] = enabled;
@@ -117,8 +117,8 @@ struct remoteMelvoxDevice_t::privateData_t::replyTable_t
         };
         replies["correctionMaxAge"] = [](cache_t& c, QVariant const& v)
         {
-            melvoxCorrectionType_t type;
-            unsigned int seconds;
+            melvoxCorrectionType_t type = melvoxCorrectionType_t();
+            unsigned int seconds = 0;
             if (!readField(v, "type", type) || !readField(v, "seconds", seconds))
                 return false;
             c.correctionMaxAge[type] = seconds;
@@ -161,7 +161,7 @@ struct remoteMelvoxDevice_t::privateData_t::replyTable_t
         };
         replies["vhdInfo"] = [](cache_t& c, QVariant const& v)
         {
-            double heading, attitude, baseline, rms;
+            double heading = 0, attitude = 0, baseline = 0, rms = 0;
             if (!readField(v, "rawHeading", heading) || !readField(v, "attitude", attitude) ||
                 !readField(v, "baseline", baseline) || !readField(v, "headingRms", rms))
                 return false;
@@ -361,9 +361,9 @@ struct remoteMelvoxDevice_t::privateData_t::replyTable_t
         };
         replies["output"] = [](cache_t& c, QVariant const& v)
         {
-            melvoxPort_t port;
+            melvoxPort_t port = melvoxPort_t();
             std::string name;
-            melvoxMessageOutput_t output;
+            melvoxMessageOutput_t output = melvoxMessageOutput_t();
             if (!readPort(v, port) || !readField(v, "message", name) || !read(v, output))
                 return false;
             c.outputs[port][name] = output;
@@ -372,7 +372,7 @@ struct remoteMelvoxDevice_t::privateData_t::replyTable_t
         };
         replies["portTxRxInfo"] = [](cache_t& c, QVariant const& v)
         {
-            melvoxPort_t port;
+            melvoxPort_t port = melvoxPort_t();
             if (!readPort(v, port) || !read(v, c.portTxRxInfo[port]))
                 return false;
             emit c.device->portTxRxInfoUpdated();
@@ -380,8 +380,8 @@ struct remoteMelvoxDevice_t::privateData_t::replyTable_t
         };
         replies["ggaMode"] = [](cache_t& c, QVariant const& v)
         {
-            ggaQuality_t quality;
-            melvoxGgaCorrectionsScaling_t scaling;
+            ggaQuality_t quality = ggaQuality_t();
+            melvoxGgaCorrectionsScaling_t scaling = melvoxGgaCorrectionsScaling_t();
             if (!readField(v, "quality", quality) || !readField(v, "scaling", scaling) ||
                 !fillField(c.ggaMode, "mode", v))
                 return false;
@@ -403,8 +403,8 @@ struct remoteMelvoxDevice_t::privateData_t::replyTable_t
     {
         replies["serialConfig"] = [](cache_t& c, QVariant const& v)
         {
-            melvoxPort_t port;
-            melvoxSerialPortConfig_t config;
+            melvoxPort_t port = melvoxPort_t();
+            melvoxSerialPortConfig_t config = melvoxSerialPortConfig_t();
             if (!readPort(v, port) || !read(v, config))
                 return false;
             emit c.device->serialConfigUpdated(port, config);
@@ -412,8 +412,8 @@ struct remoteMelvoxDevice_t::privateData_t::replyTable_t
         };
         replies["serialRs232Mode"] = [](cache_t& c, QVariant const& v)
         {
-            melvoxPort_t port;
-            bool rs232;
+            melvoxPort_t port = melvoxPort_t();
+            bool rs232 = false;
             if (!readPort(v, port) || !readField(v, "rs232", rs232))
                 return false;
             emit c.device->serialRs232ModeUpdated(port, rs232);
@@ -421,8 +421,8 @@ struct remoteMelvoxDevice_t::privateData_t::replyTable_t
         };
         replies["vcomConfig"] = [](cache_t& c, QVariant const& v)
         {
-            melvoxPort_t port;
-            melvoxVcomConfig_t config;
+            melvoxPort_t port = melvoxPort_t();
+            melvoxVcomConfig_t config = melvoxVcomConfig_t();
             if (!readPort(v, port) || !read(v, config))
                 return false;
             emit c.device->vcomConfigUpdated(port, config);
@@ -471,7 +471,7 @@ struct remoteMelvoxDevice_t::privateData_t::replyTable_t
         };
         replies["webUiUploadState"] = [](cache_t& c, QVariant const& v)
         {
-            melvoxWebUiUploadState_t state;
+            melvoxWebUiUploadState_t state = melvoxWebUiUploadState_t();
             if (!readField(v, "state", state) || !readField(v, "description", c.webUiUploadDescription))
                 return false;
             c.webUiUploadState = state;
@@ -480,7 +480,7 @@ struct remoteMelvoxDevice_t::privateData_t::replyTable_t
         };
         replies["webUiUploadPercent"] = [](cache_t& c, QVariant const& v)
         {
-            double fraction;
+            double fraction = 0;
             if (!read(v, fraction))
                 return false;
             emit c.device->webUiUploadPercentUpdated(fraction);
@@ -507,7 +507,7 @@ struct remoteMelvoxDevice_t::privateData_t::replyTable_t
         };
         replies["firmwareUpdateState"] = [](cache_t& c, QVariant const& v)
         {
-            firmwareUpdateState_t state;
+            firmwareUpdateState_t state = firmwareUpdateState_t();
             std::string description;
             if (!readField(v, "state", state) || !readField(v, "description", description))
                 return false;
@@ -516,7 +516,7 @@ struct remoteMelvoxDevice_t::privateData_t::replyTable_t
         };
         replies["firmwareUpdatePercent"] = [](cache_t& c, QVariant const& v)
         {
-            double fraction;
+            double fraction = 0;
             if (!read(v, fraction))
                 return false;
             emit c.device->firmwareUpdateProgressUpdated(fraction);
@@ -543,7 +543,7 @@ struct remoteMelvoxDevice_t::privateData_t::replyTable_t
         replies["profile"] = [](cache_t& c, QVariant const& v)
         {
             std::string name;
-            unsigned int modified;
+            unsigned int modified = 0;
             if (!readField(v, "name", name) || !readField(v, "modified", modified))
                 return false;
             emit c.device->profileUpdated(name, modified);

@@ -1,0 +1,72 @@
+#ifndef MELVOX_BENCH_H
+#define MELVOX_BENCH_H
+
+#include "brel_common_qt/kitPort.h"
+#include "brel_common_qt/remoteMelvoxDevice.h"
+#include "link/scriptedLink.h"
+
+#include <QApplication>
+
+#include <benchmark/benchmark.h>
+
+#include <memory>
+
+/** Measurements come in pairs: "what/which" and "what/which/bare", the bare way of doing the same. */
+namespace melvox_bench
+{
+
+/** A proxy on a receiver that the measurement plays. */
+struct receiver_t
+{
+    receiver_t()
+        : device(new brel_common_qt::remoteMelvoxDevice_t(melvox_kit::createPort(&link, melvox_kit::LINK_OTHER)))
+    {
+    }
+
+    melvox_link::scriptedLink_t link;
+    std::unique_ptr<brel_common_qt::remoteMelvoxDevice_t> device;
+};
+
+/** Building (and destroying) a page. */
+template <typename page_t> void buildPage(benchmark::State& state)
+{
+    receiver_t receiver;
+    for (auto _ : state)
+    {
+        page_t page(receiver.device.get());
+        benchmark::DoNotOptimize(&page);
+    }
+}
+
+/** Building (and destroying) its form alone. */
+template <typename form_t, typename base_t = QWidget> void buildForm(benchmark::State& state)
+{
+    for (auto _ : state)
+    {
+        base_t widget;
+        form_t form;
+        form.setupUi(&widget);
+        benchmark::DoNotOptimize(&widget);
+    }
+}
+
+inline int run(int argc, char** argv)
+{
+    qputenv("QT_QPA_PLATFORM", "offscreen");
+    QApplication application(argc, argv);
+    benchmark::Initialize(&argc, argv);
+    if (benchmark::ReportUnrecognizedArguments(argc, argv))
+        return 2;
+    benchmark::RunSpecifiedBenchmarks();
+    return 0;
+}
+
+} // namespace melvox_bench
+
+#define MELVOX_BENCH_MAIN                                                                                              \
+    int main(int argc, char** argv)                                                                                    \
+    {                                                                                                                  \
+        return melvox_bench::run(argc, argv);                                                                          \
+    }
+
+#endif

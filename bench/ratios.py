@@ -1,0 +1,48 @@
+"""Runs benchmark programs and prints medians as ratios: ratios.py REPETITIONS PROGRAM...
+
+A measurement "a/b" is held against "a/b/bare"; one named "a/b/1000" with a smaller twin "a/b/10" is also shown per row.
+"""
+import json
+import subprocess
+import sys
+
+LIMITS = {"buildPage": 1.25, "report": 2.0}
+MICROSECONDS = {"ns": 1e-3, "us": 1, "ms": 1e3, "s": 1e6}
+
+
+def medians(program, repetitions):
+    out = subprocess.run(
+        [program, f"--benchmark_repetitions={repetitions}", "--benchmark_report_aggregates_only=true",
+         "--benchmark_format=json", "--benchmark_enable_random_interleaving=true", "--benchmark_min_time=0.05"],
+        check=True, stdout=subprocess.PIPE, text=True).stdout
+    for run in json.loads(out)["benchmarks"]:
+        if run.get("aggregate_name") == "median":
+            yield run["run_name"], run["cpu_time"] * MICROSECONDS[run["time_unit"]]
+
+
+def main():
+    times = {}
+    for program in sys.argv[2:]:
+        times.update(medians(program, int(sys.argv[1])))
+    print(f"{'measurement':44} {'us':>10} {'bare, us':>10} {'ratio':>7} {'at most':>8}")
+    built = []
+    for name, time in times.items():
+        bare = times.get(name + "/bare")
+        if bare is None:
+            continue
+        kind = name.split("/")[0]
+        if kind == "buildPage":
+            built.append(time / bare)
+        print(f"{name:44} {time:10.1f} {bare:10.1f} {time / bare:7.2f} {LIMITS.get(kind, ''):>8}")
+    if built:
+        built.sort()
+        print(f"{'buildPage, the median page':44} {'':10} {'':10} {built[len(built) // 2]:7.2f} {1.15:>8}")
+    for name, time in times.items():
+        base, _, rows = name.rpartition("/")
+        if rows.isdigit() and rows != "10" and f"{base}/10" in times:
+            per_row = (time / int(rows)) / (times[f"{base}/10"] / 10)
+            print(f"{name + ', per row against 10':44} {time:10.1f} {'':10} {per_row:7.2f} {1.3:>8}")
+
+
+if __name__ == "__main__":
+    main()

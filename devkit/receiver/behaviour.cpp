@@ -1,0 +1,43 @@
+#include "receiver/behaviour.h"
+
+namespace melvox_receiver
+{
+
+behaviour_t::behaviour_t(receiver_t& owner) : receiver(owner)
+{
+}
+
+behaviour_t::~behaviour_t() = default;
+
+behaviour_t::answer_t behaviour_t::request(link_t*, QString const&)
+{
+    return NOT_MINE;
+}
+
+behaviour_t::answer_t behaviour_t::command(link_t*, QString const&, QVariant const&)
+{
+    return NOT_MINE;
+}
+
+void behaviour_t::settingChanged(QString const&)
+{
+}
+
+void behaviour_t::linkClosed(link_t*)
+{
+}
+
+void behaviour_t::restarted()
+{
+}
+
+void behaviour_t::advance(int)
+{
+}
+
+void behaviour_t::wantTicks(bool wanted)
+{
+    receiver.wantTicks(this, wanted);
+}
+
+} // namespace melvox_receiver

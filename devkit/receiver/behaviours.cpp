@@ -1,0 +1,42 @@
+#include "receiver/behaviours.h"
+
+#include "receiver/antennas.h"
+#include "receiver/corrections.h"
+#include "receiver/firmware.h"
+#include "receiver/modem.h"
+#include "receiver/navigation.h"
+#include "receiver/outputs.h"
+#include "receiver/portLock.h"
+#include "receiver/profiles.h"
+#include "receiver/web.h"
+
+namespace melvox_receiver
+{
+
+namespace
+{
+
+typedef std::unique_ptr<behaviour_t> (*maker_t)(receiver_t&);
+
+template <typename made_t> std::unique_ptr<behaviour_t> make(receiver_t& receiver)
+{
+    return std::unique_ptr<behaviour_t>(new made_t(receiver));
+}
+
+/** A new behaviour is a line here. They are asked in this order. */
+maker_t const MAKERS[] = {
+    &make<navigation_t>, &make<antennas_t>, &make<corrections_t>, &make<outputs_t>, &make<portLock_t>,
+    &make<firmware_t>,   &make<profiles_t>, &make<web_t>,         &make<modem_t>,
+};
+
+} // namespace
+
+std::vector<std::unique_ptr<behaviour_t>> makeBehaviours(receiver_t& receiver)
+{
+    std::vector<std::unique_ptr<behaviour_t>> behaviours;
+    for (maker_t maker : MAKERS)
+        behaviours.push_back(maker(receiver));
+    return behaviours;
+}
+
+} // namespace melvox_receiver

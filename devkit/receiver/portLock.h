@@ -1,0 +1,26 @@
+#ifndef MELVOX_RECEIVER_PORT_LOCK_H
+#define MELVOX_RECEIVER_PORT_LOCK_H
+
+#include "receiver/behaviour.h"
+
+namespace melvox_receiver
+{
+
+/** One display at a time may have the receiver for itself. */
+class portLock_t : public behaviour_t
+{
+public:
+    explicit portLock_t(receiver_t& receiver);
+
+    answer_t command(link_t* from, QString const& group, QVariant const& value) override;
+    void linkClosed(link_t* link) override;
+    void restarted() override;
+
+private:
+    link_t* m_holder;
+    int m_state; //!< what the holder asked for: 1 for the framework, 2 for a plug-in; 0 without a holder
+};
+
+} // namespace melvox_receiver
+
+#endif

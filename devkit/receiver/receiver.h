@@ -1,0 +1,108 @@
+#ifndef MELVOX_RECEIVER_RECEIVER_H
+#define MELVOX_RECEIVER_RECEIVER_H
+
+#include "link/link.h"
+#include "receiver/settingsTable.h"
+#include "receiver/simClock.h"
+
+#include <QList>
+#include <QObject>
+#include <QSet>
+
+#include <memory>
+#include <vector>
+
+namespace melvox_receiver
+{
+
+using melvox_link::link_t;
+using melvox_link::message_t;
+
+class behaviour_t;
+
+/** A receiver that is not there: it keeps settings, answers displays over links, and behaves in simulated time. What it
+ *  cannot read it counts, logs in the category "melvox.receiver" and passes over. */
+class receiver_t : public QObject
+{
+    Q_OBJECT
+
+public:
+    /** Without a link at first. The clock must outlive the receiver. */
+    explicit receiver_t(simClock_t* clock, QObject* parent = nullptr);
+
+    /** With one display, on COM1. */
+    receiver_t(link_t* end, simClock_t* clock, QObject* parent = nullptr);
+    ~receiver_t() override;
+
+    /** Attaches another display by the receiver's end of its link. `activePort` is the receiver's port over which that
+     *  display comes in, 0 to 13. The link stays the caller's and may go at any time. */
+    void addLink(link_t* end, unsigned int activePort);
+    void removeLink(link_t* end);
+
+    /** The display hears of it. */
+    void setActivePort(link_t* end, unsigned int port);
+    unsigned int activePort(link_t* end) const;
+
+    simClock_t& clock() const;
+
+    /** The value of one group as it stands; of a keyed group the list of its records. Invalid: no such group. */
+    QVariant setting(QString const& group) const;
+    settings_t const& settings() const;
+
+    /** As if a display had sent it as a command; false when it was not taken. */
+    bool set(QString const& group, QVariant const& value);
+
+    /** How many messages made no sense. */
+    int ignoredCount() const;
+
+    // For behaviours.
+
+    /** Stores a value that needs no rule and reports it to all displays if it is another one. */
+    void change(QString const& group, QVariant const& value);
+
+    /** Takes the settings that displays can change over from a stored profile, each by its rule, and reports those that
+     *  are others now. */
+    void restore(settings_t const& settings);
+
+    void report(QString const& group, QVariant const& value);             //!< to all displays
+    void report(link_t* to, QString const& group, QVariant const& value); //!< to one
+    void event(QString const& group, QVariant const& value = QVariant());
+    void event(link_t* to, QString const& group, QVariant const& value = QVariant());
+    void wantTicks(behaviour_t* who, bool wanted);
+
+    /** All behaviours start anew, as after a loss of power. */
+    void restart();
+
+signals:
+    /** A message that made no sense: why, and the message as text, cut to a length that one can read. */
+    void ignored(QString const& why, QString const& text);
+
+private:
+    struct display_t
+    {
+        link_t* end;
+        unsigned int activePort;
+    };
+
+    void take(link_t* from, message_t const& message);
+    void takeRequest(link_t* from, message_t const& message);
+    void takeCommand(link_t* from, message_t const& message);
+    outcome_t takeSetting(setting_t const& setting, QVariant const& value, QVariant& taken, bool& changed,
+                          QString& why);
+    void reportSetting(link_t* to, setting_t const& setting);
+    void tellChanged(QString const& group);
+    void ignore(QString const& why, message_t const& message);
+    void closed(link_t* end);
+    void advance(int milliseconds);
+
+    simClock_t* m_clock;
+    settings_t m_settings;
+    QList<display_t> m_displays;
+    int m_ignoredCount;
+    QSet<behaviour_t*> m_ticking;
+    std::vector<std::unique_ptr<behaviour_t>> m_behaviours;
+};
+
+} // namespace melvox_receiver
+
+#endif

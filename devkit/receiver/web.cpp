@@ -1,0 +1,117 @@
+#include "receiver/web.h"
+
+namespace melvox_receiver
+{
+
+namespace
+{
+
+int const UPLOAD_ERROR = 0;
+int const UPLOAD_IN_PROGRESS = 1;
+int const UPLOAD_COMPLETE = 2;
+
+double const LARGEST_PACKAGE = 256.0 * 1024 * 1024; // bytes
+
+QVariantMap stateRecord(int state, QString const& description)
+{
+    return {{"state", state}, {"description", description}};
+}
+
+} // namespace
+
+web_t::web_t(receiver_t& owner) : behaviour_t(owner), m_fetch(owner), m_size(0)
+{
+}
+
+behaviour_t::answer_t web_t::command(link_t* from, QString const& group, QVariant const& value)
+{
+    if (group == "startWebUiUpload")
+        return start(from, value);
+    if (group == "cancelWebUiUpload")
+    {
+        cancel();
+        return DONE;
+    }
+    return group == "fileBlock" ? go(m_fetch.take(from, value)) : NOT_MINE;
+}
+
+behaviour_t::answer_t web_t::start(link_t* from, QVariant const& value)
+{
+    QVariant taken;
+    QString why;
+    rule_t const rule = record({{"path", text(4096)}, {"size", whole(0, LARGEST_PACKAGE)}});
+    outcome_t const outcome = take(rule, value, QVariant(), taken, why);
+    if (outcome == MALFORMED)
+        return UNREADABLE;
+    if (m_fetch.isRunning())
+    {
+        receiver.report(from, "webUiUploadState", stateRecord(UPLOAD_IN_PROGRESS, "Another upload is in progress"));
+        return DONE;
+    }
+    m_size = taken.toMap().value("size").toLongLong();
+    if (outcome == REFUSED || m_size == 0)
+    {
+        end(UPLOAD_ERROR, outcome == REFUSED ? "The package is too large" : "The package is empty");
+        return DONE;
+    }
+    receiver.report("webUiUploadState", stateRecord(UPLOAD_IN_PROGRESS, "Receiving the package"));
+    receiver.report("webUiUploadPercent", 0.0);
+    m_fetch.start(from, taken.toMap().value("path").toString(), m_size);
+    wantTicks(true);
+    return DONE;
+}
+
+void web_t::cancel()
+{
+    if (!m_fetch.isRunning())
+        return;
+    m_fetch.stop();
+    end(UPLOAD_ERROR, "The upload was cancelled");
+}
+
+void web_t::end(int state, QString const& description)
+{
+    wantTicks(false);
+    receiver.report("webUiUploadState", stateRecord(state, description));
+}
+
+behaviour_t::answer_t web_t::go(fileFetch_t::progress_t progress)
+{
+    switch (progress)
+    {
+    case fileFetch_t::NOT_MINE:
+        return NOT_MINE;
+    case fileFetch_t::UNREADABLE:
+        return UNREADABLE;
+    case fileFetch_t::GOING_ON:
+    case fileFetch_t::FINISHED:
+        receiver.report("webUiUploadPercent", double(m_fetch.received()) / double(m_size));
+        break;
+    case fileFetch_t::FAILED:
+        break;
+    }
+    if (progress == fileFetch_t::FINISHED)
+        end(UPLOAD_COMPLETE, "Upload complete");
+    else if (progress == fileFetch_t::FAILED)
+        end(UPLOAD_ERROR, m_fetch.error());
+    return DONE;
+}
+
+void web_t::linkClosed(link_t* link)
+{
+    if (m_fetch.source() == link)
+        cancel();
+}
+
+void web_t::restarted()
+{
+    cancel();
+}
+
+void web_t::advance(int milliseconds)
+{
+    if (m_fetch.advance(milliseconds) == fileFetch_t::FAILED)
+        end(UPLOAD_ERROR, m_fetch.error());
+}
+
+} // namespace melvox_receiver

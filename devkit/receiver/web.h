@@ -1,0 +1,33 @@
+#ifndef MELVOX_RECEIVER_WEB_H
+#define MELVOX_RECEIVER_WEB_H
+
+#include "receiver/behaviour.h"
+#include "receiver/fileFetch.h"
+
+namespace melvox_receiver
+{
+
+/** Takes a new package for the web interface in. */
+class web_t : public behaviour_t
+{
+public:
+    explicit web_t(receiver_t& receiver);
+
+    answer_t command(link_t* from, QString const& group, QVariant const& value) override;
+    void linkClosed(link_t* link) override;
+    void restarted() override;
+    void advance(int milliseconds) override;
+
+private:
+    answer_t start(link_t* from, QVariant const& value);
+    void cancel();
+    answer_t go(fileFetch_t::progress_t progress);
+    void end(int state, QString const& description);
+
+    fileFetch_t m_fetch;
+    qint64 m_size;
+};
+
+} // namespace melvox_receiver
+
+#endif

@@ -1,0 +1,350 @@
+#include "allPages.h"
+
+#include "support/everything.h"
+#include "support/pageTest.h"
+
+#include <QDialogButtonBox>
+#include <QGroupBox>
+#include <QScrollBar>
+#include <QTextEdit>
+
+#include <type_traits>
+
+using namespace brel_common_qt;
+using namespace brel_common_qt_gui;
+
+namespace
+{
+
+typedef QWidget* (*create_t)(remoteMelvoxDevice_t* device);
+
+/** How a page, a dialog on the receiver, and one without it are built. Other classes have no screen: null. */
+template <typename page_t> typename std::enable_if<std::is_base_of<QWidget, page_t>::value &&
+                                                       std::is_constructible<page_t, remoteMelvoxDevice_t*>::value &&
+                                                       !std::is_base_of<QDialog, page_t>::value,
+                                                   create_t>::type
+creator()
+{
+    return [](remoteMelvoxDevice_t* device) -> QWidget* { return new page_t(device); };
+}
+
+template <typename page_t>
+typename std::enable_if<std::is_base_of<QDialog, page_t>::value &&
+                            std::is_constructible<page_t, remoteMelvoxDevice_t*, QWidget*>::value,
+                        create_t>::type
+creator()
+{
+    return [](remoteMelvoxDevice_t* device) -> QWidget* { return new page_t(device, 0); };
+}
+
+template <typename page_t>
+typename std::enable_if<std::is_base_of<QDialog, page_t>::value &&
+                            !std::is_constructible<page_t, remoteMelvoxDevice_t*, QWidget*>::value,
+                        create_t>::type
+creator()
+{
+    return [](remoteMelvoxDevice_t*) -> QWidget* { return new page_t(static_cast<QWidget*>(0)); };
+}
+
+template <typename page_t> typename std::enable_if<!std::is_base_of<QWidget, page_t>::value, create_t>::type creator()
+{
+    return 0;
+}
+
+struct page_t
+{
+    char const* name;
+    create_t create;
+};
+
+#define MELVOX_PAGE(name) {#name, creator<name##_t>()},
+page_t const PAGES[] = {MELVOX_ALL_PAGES(MELVOX_PAGE)};
+#undef MELVOX_PAGE
+
+create_t creatorOf(QString const& name)
+{
+    for (page_t const& page : PAGES)
+    {
+        if (name == page.name)
+            return page.create;
+    }
+    return 0;
+}
+
+int const TOUCH_HEIGHT = 40;
+
+bool isEditor(QWidget const* widget)
+{
+    return qobject_cast<QLineEdit const*>(widget) || qobject_cast<QComboBox const*>(widget) ||
+           qobject_cast<QAbstractButton const*>(widget);
+}
+
+/** The parts of Qt's own that widgets are made of: the edit of a combo box, the arrows of a scroll bar. */
+bool isInner(QWidget const* widget)
+{
+    return widget->objectName().isEmpty() || widget->objectName().startsWith("qt_") ||
+           qobject_cast<QComboBox const*>(widget->parentWidget());
+}
+
+bool hasBuddy(QWidget* page, QWidget const* editor)
+{
+    QList<QLabel*> const labels = page->findChildren<QLabel*>();
+    for (QLabel const* label : labels)
+    {
+        if (label->buddy() == editor)
+            return true;
+    }
+    return false;
+}
+
+/** Lays the page out at a size without a window system's help. */
+void layOut(QWidget* page, int width, int height)
+{
+    page->resize(width, height);
+    page->show();
+    melvox_test::settle();
+}
+
+} // namespace
+
+/** What holds for every page and dialog, whatever it is about. */
+class tst_allPages : public melvox_test::pageTest_t
+{
+    Q_OBJECT
+
+private:
+    static void rows();
+    QWidget* build();
+    static QStringList touchFaults(QWidget* page);
+    static QStringList cutOff(QWidget* page);
+    static void press(QWidget* page, char const* slot);
+
+private slots:
+    void livesOnASilentReceiver_data() { rows(); }
+    void livesOnASilentReceiver();
+    void livesThroughEverythingAReceiverTells_data() { rows(); }
+    void livesThroughEverythingAReceiverTells();
+    void sendsNothingWhenItIsBuilt_data() { rows(); }
+    void sendsNothingWhenItIsBuilt();
+    void runsNoTimerWhileIdle_data() { rows(); }
+    void runsNoTimerWhileIdle();
+    void namesItsWidgetsUniquely_data() { rows(); }
+    void namesItsWidgetsUniquely();
+    void namesEachEditorForThoseWhoCannotSeeIt_data() { rows(); }
+    void namesEachEditorForThoseWhoCannotSeeIt();
+    void givesEachNumericEditItsKeypad_data() { rows(); }
+    void givesEachNumericEditItsKeypad();
+    void tabsFromTopToBottom_data() { rows(); }
+    void tabsFromTopToBottom();
+    void fitsTheSmallestScreen_data() { rows(); }
+    void fitsTheSmallestScreen();
+    void isLargeEnoughForFingers_data() { rows(); }
+    void isLargeEnoughForFingers();
+    void cutsNothingOffWithTheLongestValues_data() { rows(); }
+    void cutsNothingOffWithTheLongestValues();
+};
+
+void tst_allPages::rows()
+{
+    QTest::addColumn<QString>("name");
+    for (page_t const& page : PAGES)
+    {
+        if (page.create)
+            QTest::newRow(page.name) << QString(page.name);
+    }
+}
+
+QWidget* tst_allPages::build()
+{
+    QFETCH(QString, name);
+    return creatorOf(name)(device);
+}
+
+void tst_allPages::press(QWidget* page, char const* slot)
+{
+    // Dialogs need not have all of them.
+    if (page->metaObject()->indexOfSlot(QByteArray(slot) + "()") >= 0)
+        QMetaObject::invokeMethod(page, slot);
+}
+
+void tst_allPages::livesOnASilentReceiver()
+{
+    QScopedPointer<QWidget> const page(build());
+    layOut(page.data(), 800, 480);
+    press(page.data(), "query");
+    press(page.data(), "reset");
+    press(page.data(), "submit");
+    melvox_test::settle();
+    while (melvox_test::openBox())
+        melvox_test::closeBox();
+}
+
+void tst_allPages::livesThroughEverythingAReceiverTells()
+{
+    QScopedPointer<QWidget> const page(build());
+    layOut(page.data(), 800, 480);
+    melvox_test::reportEverything(receiver);
+    press(page.data(), "reset");
+    press(page.data(), "submit");
+    melvox_test::reportTheLongest(receiver);
+    press(page.data(), "query");
+    melvox_test::settle();
+    while (melvox_test::openBox())
+        melvox_test::closeBox();
+}
+
+void tst_allPages::sendsNothingWhenItIsBuilt()
+{
+    melvox_test::reportEverything(receiver);
+    QScopedPointer<QWidget> const page(build());
+    melvox_test::settle();
+    QVERIFY2(receiver->sent().isEmpty(), qPrintable(receiver->sent().join("; ")));
+}
+
+void tst_allPages::runsNoTimerWhileIdle()
+{
+    melvox_test::reportEverything(receiver);
+    QScopedPointer<QWidget> const page(build());
+    layOut(page.data(), 800, 480);
+    QList<QTimer*> const timers = page->findChildren<QTimer*>();
+    for (QTimer const* timer : timers)
+    {
+        // A single shot that waits for a report to grow stale is not idle; one that goes on for ever is.
+        QVERIFY2(!timer->isActive() || timer->isSingleShot(), qPrintable(timer->objectName()));
+    }
+}
+
+void tst_allPages::namesItsWidgetsUniquely()
+{
+    QScopedPointer<QWidget> const page(build());
+    QStringList names;
+    QList<QWidget*> const widgets = page->findChildren<QWidget*>();
+    for (QWidget const* widget : widgets)
+    {
+        if (isInner(widget) || widget->window() != page.data())
+            continue;
+        QVERIFY2(!names.contains(widget->objectName()), qPrintable(widget->objectName()));
+        names << widget->objectName();
+    }
+    QVERIFY(!names.isEmpty());
+}
+
+void tst_allPages::namesEachEditorForThoseWhoCannotSeeIt()
+{
+    QScopedPointer<QWidget> const page(build());
+    QStringList nameless;
+    QList<QWidget*> const widgets = page->findChildren<QWidget*>();
+    for (QWidget* widget : widgets)
+    {
+        if (!isEditor(widget) || isInner(widget) || widget->window() != page.data())
+            continue;
+        QAbstractButton const* const button = qobject_cast<QAbstractButton const*>(widget);
+        bool const named = !widget->accessibleName().isEmpty() || (button && !button->text().isEmpty()) ||
+                           hasBuddy(page.data(), widget);
+        if (!named)
+            nameless << widget->objectName();
+    }
+    QVERIFY2(nameless.isEmpty(), qPrintable(nameless.join(", ")));
+}
+
+void tst_allPages::givesEachNumericEditItsKeypad()
+{
+    QScopedPointer<QWidget> const page(build());
+    QList<QLineEdit*> const edits = page->findChildren<QLineEdit*>();
+    for (QLineEdit const* edit : edits)
+    {
+        if (isInner(edit) || edit->isReadOnly() || edit->window() != page.data())
+            continue;
+        QString const type = edit->property("keypadType").toString();
+        bool const good = type == "numeric" || type == "full" || edit->objectName() == "messageNameLineEdit";
+        QVERIFY2(good, qPrintable(edit->objectName()));
+    }
+}
+
+void tst_allPages::tabsFromTopToBottom()
+{
+    QScopedPointer<QWidget> const page(build());
+    melvox_test::reportEverything(receiver);
+    layOut(page.data(), 800, 480);
+    // Groups may stand side by side, so the order counts within one group.
+    QMap<QWidget*, QPoint> last;
+    for (QWidget* widget = page->nextInFocusChain(); widget != page.data(); widget = widget->nextInFocusChain())
+    {
+        bool const counts = (qobject_cast<QLineEdit*>(widget) || qobject_cast<QComboBox*>(widget)) &&
+                            widget->isVisible() && !isInner(widget) && widget->window() == page.data();
+        if (!counts)
+            continue;
+        QWidget* const group = widget->parentWidget();
+        if (last.contains(group))
+            QVERIFY2(widget->y() >= last[group].y() - 4, qPrintable(widget->objectName()));
+        last[group] = widget->pos();
+    }
+}
+
+void tst_allPages::fitsTheSmallestScreen()
+{
+    QScopedPointer<QWidget> const page(build());
+    melvox_test::reportTheLongest(receiver);
+    layOut(page.data(), 800, 480);
+    QVERIFY2(page->minimumSizeHint().width() <= 800 && page->minimumSizeHint().height() <= 480,
+             qPrintable(QString("%1 x %2").arg(page->minimumSizeHint().width()).arg(page->minimumSizeHint().height())));
+}
+
+QStringList tst_allPages::touchFaults(QWidget* page)
+{
+    QStringList faults;
+    QList<QWidget*> const widgets = page->findChildren<QWidget*>();
+    for (QWidget* widget : widgets)
+    {
+        if (isEditor(widget) && widget->isVisible() && !isInner(widget) && widget->window() == page &&
+            widget->height() < TOUCH_HEIGHT)
+            faults << QString("%1 is %2 high").arg(widget->objectName()).arg(widget->height());
+        QAbstractButton const* const button = qobject_cast<QAbstractButton const*>(widget);
+        if (button && button->isVisible() && qobject_cast<QDialogButtonBox*>(button->parentWidget()) &&
+            button->height() < TOUCH_HEIGHT)
+            faults << QString("%1 is %2 high").arg(button->text()).arg(button->height());
+    }
+    return faults;
+}
+
+void tst_allPages::isLargeEnoughForFingers()
+{
+    QScopedPointer<QWidget> const page(build());
+    melvox_test::reportEverything(receiver);
+    layOut(page.data(), 800, 480);
+    QStringList const faults = touchFaults(page.data());
+    QVERIFY2(faults.isEmpty(), qPrintable(faults.join(", ")));
+}
+
+QStringList tst_allPages::cutOff(QWidget* page)
+{
+    QStringList faults;
+    QList<QWidget*> const widgets = page->findChildren<QWidget*>();
+    for (QWidget* widget : widgets)
+    {
+        if (!widget->isVisible() || widget->window() != page || isInner(widget))
+            continue;
+        QLabel const* const label = qobject_cast<QLabel const*>(widget);
+        bool const text = (label && !label->wordWrap()) || qobject_cast<QAbstractButton*>(widget);
+        if (text && (widget->width() < widget->sizeHint().width() || widget->height() < widget->sizeHint().height()))
+            faults << widget->objectName();
+        if (label && label->wordWrap() && label->height() < label->heightForWidth(label->width()))
+            faults << widget->objectName();
+        QRect const inside = widget->parentWidget()->contentsRect();
+        if (label && !inside.contains(widget->geometry()))
+            faults << widget->objectName() + " stands out";
+    }
+    return faults;
+}
+
+void tst_allPages::cutsNothingOffWithTheLongestValues()
+{
+    QScopedPointer<QWidget> const page(build());
+    melvox_test::reportTheLongest(receiver);
+    layOut(page.data(), 800, 480);
+    QStringList const faults = cutOff(page.data());
+    QVERIFY2(faults.isEmpty(), qPrintable(faults.join(", ")));
+}
+
+QTEST_MAIN(tst_allPages)
+#include "tst_allPages.moc"
