@@ -1,4 +1,4 @@
-# What needs no receiver: texts, versions, timestamps. Included where the library brel_common_qt is made.
+# What needs no receiver: texts, versions, timestamps, USB drives. Included where the library brel_common_qt is made.
 find_path(MELVOX_GEOGRAPHICLIB_INCLUDE_DIR GeographicLib/DMS.hpp)
 find_library(MELVOX_GEOGRAPHICLIB_LIBRARY NAMES GeographicLib Geographic)
 if(NOT MELVOX_GEOGRAPHICLIB_INCLUDE_DIR OR NOT MELVOX_GEOGRAPHICLIB_LIBRARY)
@@ -10,6 +10,8 @@ target_sources(brel_common_qt PRIVATE
     melvoxNames.cpp
     textHelpers.cpp
     timestamps.cpp
+    kitUsb.h
+    usbDriveManager.cpp ${PROJECT_SOURCE_DIR}/include/brel_common_qt/usbDriveManager.h
     version.cpp
 )
 target_include_directories(brel_common_qt SYSTEM PRIVATE ${MELVOX_GEOGRAPHICLIB_INCLUDE_DIR})

@@ -16,12 +16,14 @@ class BREL_COMMON_QT_GUI_EXPORT ipPortEdit_t : public QObject
     Q_OBJECT
 
 public:
-    /** The line edit must live as long. */
+    /** The line edit must live as long. Lets only a port be typed, and wants the numeric keypad unless the form wants
+     *  another. */
     ipPortEdit_t(QLineEdit* lineEdit, QObject* parent);
 
     void setPort(unsigned short port);
 
-    /** False, and `port` untouched, unless the text is a decimal number of 0 to 65535. */
+    /** False, and `port` untouched, unless the text is a decimal number of 0 to 65535, of at most five digits. Blanks
+     *  around it do not count. */
     bool getPort(unsigned short& port) const;
 
 private:

@@ -15,6 +15,9 @@ public:
     explicit latitudeEdit_t(QWidget* parent = 0);
 
     void setLatitude(double degrees);
+
+private:
+    static privateData_t* createData();
 };
 
 } // namespace brel_common_qt_gui

@@ -26,7 +26,8 @@ public:
     messageLights_t(brel_common_qt::remoteDevice_t* device, QObject* parent);
     ~messageLights_t();
 
-    /** A light that is destroyed drops out by itself. */
+    /** Dark at first. A label that is destroyed drops out by itself; one that is added again changes its stream.
+     *  Its property "lit" tells which it is. */
     void addLight(int stream, QLabel* label);
 
 private slots:

@@ -15,12 +15,12 @@ class BREL_COMMON_QT_GUI_EXPORT usbDriveSelectDialog_t : public QDialog
     Q_OBJECT
 
 public:
-    /** The manager must live as long. */
+    /** Without the manager, or once it is gone, no drives are listed. */
     usbDriveSelectDialog_t(brel_common_qt::usbDriveManager_t* manager, QWidget* parent);
     ~usbDriveSelectDialog_t();
 
 signals:
-    /** A drive was chosen; the dialog is accepted. */
+    /** A drive was chosen; the dialog was accepted. */
     void driveSelected(brel_common_qt::usbDrive_t const& drive);
 
 private slots:
@@ -30,6 +30,10 @@ private slots:
 
 private:
     Q_DISABLE_COPY(usbDriveSelectDialog_t)
+
+    QWidget* createList();
+    QWidget* createButtons();
+    int selectedRow() const; //!< -1: none
 
     struct privateData_t;
     privateData_t* m_data;
