@@ -19,7 +19,6 @@ fileChooser_t::~fileChooser_t()
 
 void fileChooser_t::show()
 {
-    // One that was just answered is on its way out, and no longer the one to show.
     if (m_dialog && m_dialog->isVisible())
     {
         m_dialog->activateWindow();
@@ -29,7 +28,8 @@ void fileChooser_t::show()
     m_dialog->setAttribute(Qt::WA_DeleteOnClose);
     m_dialog->setAcceptMode(m_mode);
     m_dialog->setFileMode(m_mode == QFileDialog::AcceptOpen ? QFileDialog::ExistingFile : QFileDialog::AnyFile);
-    connect(m_dialog, SIGNAL(fileSelected(QString)), SLOT(take(QString)));
+    // Queued: what follows a choice may open the next dialog, which must not stand over this one.
+    connect(m_dialog, SIGNAL(fileSelected(QString)), SLOT(take(QString)), Qt::QueuedConnection);
     m_dialog->open();
 }
 
