@@ -6,8 +6,8 @@
 #include "support/folder.h"
 #include "support/pageTest.h"
 
-#include <QHeaderView>
 #include <QGroupBox>
+#include <QHeaderView>
 #include <QSignalSpy>
 
 using namespace brel_common_qt;
