@@ -27,7 +27,8 @@ if(MELVOX_QT EQUAL 4)
 endif()
 
 if(MELVOX_SANITIZE)
-    add_compile_options(-fsanitize=address,undefined -fno-sanitize-recover=all -fno-omit-frame-pointer)
+    # Without optimization: it compiles in less than half the time, and reports point at the right line.
+    add_compile_options(-O0 -g1 -fsanitize=address,undefined -fno-sanitize-recover=all -fno-omit-frame-pointer)
     add_link_options(-fsanitize=address,undefined)
 endif()
 

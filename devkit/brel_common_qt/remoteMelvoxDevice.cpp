@@ -411,7 +411,7 @@ float remoteMelvoxDevice_t::antennaAlignmentUserAngle() const
 
 void remoteMelvoxDevice_t::setAntennaAlignment(melvoxAntennaAlignmentMode_t mode, float degrees)
 {
-    m_data->command("antennaAlignment", namedPair("mode", write(mode), "angle", write(double(degrees))));
+    m_data->command("antennaAlignment", namedPair("mode", write(mode), "angle", write(degrees)));
 }
 
 void remoteMelvoxDevice_t::queryAntennaInfo()
@@ -616,7 +616,7 @@ float remoteMelvoxDevice_t::userCorrectionSatFrequency() const
 
 void remoteMelvoxDevice_t::defineUserCorrectionSat(int id, float kilohertz)
 {
-    QVariantMap value = namedPair("id", id, "frequency", double(kilohertz));
+    QVariantMap value = namedPair("id", id, "frequency", write(kilohertz));
     value.insert("defined", true);
     m_data->command("userCorrectionSat", value);
 }

@@ -106,6 +106,12 @@ QVariant write(double number)
     return QVariant(number);
 }
 
+// Not by way of a double: who reads it would see 359.989990234375 where somebody typed 359.99.
+QVariant write(float number)
+{
+    return QVariant(number);
+}
+
 QVariant write(int number)
 {
     return QVariant(number);

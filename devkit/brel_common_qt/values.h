@@ -29,6 +29,7 @@ bool read(QVariant const& value, std::string& text);
 
 QVariant write(bool flag);
 QVariant write(double number);
+QVariant write(float number);
 QVariant write(int number);
 QVariant write(unsigned int number);
 QVariant write(std::string const& text);

@@ -114,11 +114,9 @@ void usbDriveSelectDialog_t::selectDrive()
     if (row < 0)
         return;
     usbDrive_t const drive = m_data->drives.at(row);
-    // Closed before it tells, so that what is shown next is shown on top; whoever hears of the end may delete it.
-    QPointer<usbDriveSelectDialog_t> const self(this);
+    // Closed before it tells, so that what is shown next is shown on top.
     accept();
-    if (self)
-        emit driveSelected(drive);
+    emit driveSelected(drive);
 }
 
 } // namespace brel_common_qt_gui

@@ -19,7 +19,16 @@ behaviour_t::answer_t behaviour_t::command(link_t*, QString const&, QVariant con
     return NOT_MINE;
 }
 
+behaviour_t::answer_t behaviour_t::situation(QString const&, QVariant const&)
+{
+    return NOT_MINE;
+}
+
 void behaviour_t::settingChanged(QString const&)
+{
+}
+
+void behaviour_t::linkAttached(link_t*)
 {
 }
 

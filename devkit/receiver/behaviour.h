@@ -25,8 +25,14 @@ public:
     virtual answer_t request(link_t* from, QString const& group);
     virtual answer_t command(link_t* from, QString const& group, QVariant const& value);
 
+    /** Something is another way around the receiver; each behaviour documents the names that are its business. */
+    virtual answer_t situation(QString const& name, QVariant const& value);
+
     /** A setting has changed, from whatever side, and its report is out. */
     virtual void settingChanged(QString const& group);
+
+    /** A display comes in over that link, or over another port than before. */
+    virtual void linkAttached(link_t* link);
 
     /** That display is gone. */
     virtual void linkClosed(link_t* link);

@@ -37,15 +37,16 @@ installed_t const INSTALLED[] = {{"BOOT1", "2.0.4"},    {"BOOT2", "2.1.0"},    {
                                  {"PIOBOOT1", "1.0.3"}, {"PIOBOOT2", "1.0.5"}, {"PIOAPP", "1.8.12"},
                                  {"BLUETOOTH", "4.2"},  {"STM8", "0.9.1"},     {"GEOIDGRID", "1.0.0"}};
 
+/** A display that cannot read a file gives -1 for its size. */
 rule_t updateRule()
 {
-    rule_t const component = record({{"fileIndex", whole(0, 65535)},
+    rule_t const component = record({{"fileIndex", whole(0, 4294967295.0)},
                                      {"component", whole(0, NUM_COMPONENTS - 1)},
                                      {"path", text(4096)},
-                                     {"size", optional(whole(0, LARGEST_FILE), 0)}});
+                                     {"size", optional(whole(-1, LARGEST_FILE), 0)}});
     return record({{"components", listOf(component)},
                    {"combinedPath", text(4096)},
-                   {"combinedSize", optional(whole(0, LARGEST_FILE), 0)}});
+                   {"combinedSize", optional(whole(-1, LARGEST_FILE), 0)}});
 }
 
 } // namespace
@@ -78,14 +79,20 @@ behaviour_t::answer_t firmware_t::start(link_t* from, QVariant const& value)
 {
     QVariant taken;
     QString why;
-    if (take(updateRule(), value, QVariant(), taken, why) != TAKEN)
+    outcome_t const outcome = take(updateRule(), value, QVariant(), taken, why);
+    if (outcome == MALFORMED)
         return UNREADABLE;
     if (m_from)
         return DONE;
+    m_components.clear();
+    if (outcome == REFUSED)
+    {
+        fail("A component is unknown, or its file is too large");
+        return DONE;
+    }
     QVariantMap const update = taken.toMap();
     QString const combinedPath = update.value("combinedPath").toString();
     m_combined = !combinedPath.isEmpty();
-    m_components.clear();
     m_total = m_combined ? update.value("combinedSize").toLongLong() : 0;
     m_done = 0;
     for (QVariant const& entry : update.value("components").toList())
@@ -112,9 +119,10 @@ void firmware_t::fetchNext()
         return;
     }
     component_t& next = m_components[m_current];
-    if (next.size == 0)
+    if (next.size <= 0)
     {
-        fail(QString("The file for %1 is empty").arg(NAMES[next.component]));
+        fail(QString(next.size == 0 ? "The file for %1 is empty" : "The file for %1 cannot be read")
+                 .arg(NAMES[next.component]));
         return;
     }
     for (int i = m_current; i < (m_combined ? m_components.size() : m_current + 1); ++i)

@@ -94,9 +94,13 @@ behaviour_t::answer_t outputs_t::command(link_t* from, QString const& group, QVa
 
 behaviour_t::answer_t outputs_t::set(link_t* from, QVariant const& value)
 {
+    QVariantMap given = value.toMap();
+    // Without output an interval has no meaning, whatever it is.
+    if (isNumber(given.value("method")) && given.value("method").toInt() == 0)
+        given.remove("interval");
     QVariant taken;
     QString why;
-    if (take(outputRule(), value, QVariant(), taken, why) != TAKEN)
+    if (take(outputRule(), given, QVariant(), taken, why) != TAKEN)
         return UNREADABLE;
     QVariantMap const wanted = taken.toMap();
     QString const name = wanted.value("message").toString();

@@ -54,6 +54,8 @@ void receiver_t::addLink(link_t* end, unsigned int activePort)
                     closed(end);
             });
     connect(end, &QObject::destroyed, this, [this, end]() { removeLink(end); });
+    for (auto const& behaviour : m_behaviours)
+        behaviour->linkAttached(end);
 }
 
 void receiver_t::removeLink(link_t* end)
@@ -83,6 +85,9 @@ void receiver_t::setActivePort(link_t* end, unsigned int port)
             continue;
         display.activePort = port;
         report(end, "activePort", port);
+        for (auto const& behaviour : m_behaviours)
+            behaviour->linkAttached(end);
+        return;
     }
 }
 
@@ -94,6 +99,14 @@ unsigned int receiver_t::activePort(link_t* end) const
             return display.activePort;
     }
     return NUM_PORTS;
+}
+
+QList<link_t*> receiver_t::links() const
+{
+    QList<link_t*> links;
+    for (display_t const& display : m_displays)
+        links << display.end;
+    return links;
 }
 
 simClock_t& receiver_t::clock() const
@@ -181,10 +194,13 @@ void receiver_t::takeCommand(link_t* from, message_t const& message)
         ignore("no group that can be commanded", message);
         return;
     }
+    QVariantMap value = message.value.toMap();
+    if (message.group == "serialConfig" && !value.isEmpty() && !value.contains("port"))
+        value.insert("port", activePort(from));
     QVariant taken;
     bool changed = false;
     QString why;
-    if (takeSetting(*setting, message.value, taken, changed, why) == MALFORMED)
+    if (takeSetting(*setting, value.isEmpty() ? message.value : QVariant(value), taken, changed, why) == MALFORMED)
         ignore(why, message);
     else if (!changed)
         report(from, message.group, taken);
@@ -234,6 +250,17 @@ bool receiver_t::set(QString const& group, QVariant const& value)
     if (changed)
         tellChanged(group);
     return true;
+}
+
+bool receiver_t::setSituation(QString const& name, QVariant const& value)
+{
+    for (auto const& behaviour : m_behaviours)
+    {
+        behaviour_t::answer_t const answer = behaviour->situation(name, value);
+        if (answer != behaviour_t::NOT_MINE)
+            return answer == behaviour_t::DONE;
+    }
+    return false;
 }
 
 void receiver_t::tellChanged(QString const& group)

@@ -42,6 +42,7 @@ public:
     /** The display hears of it. */
     void setActivePort(link_t* end, unsigned int port);
     unsigned int activePort(link_t* end) const;
+    QList<link_t*> links() const;
 
     simClock_t& clock() const;
 
@@ -51,6 +52,10 @@ public:
 
     /** As if a display had sent it as a command; false when it was not taken. */
     bool set(QString const& group, QVariant const& value);
+
+    /** What goes on around the receiver and is no setting of it, such as satellites out of view: for scenarios and
+     *  tests, by the names that behaviours document. False when none knows the name or the value makes no sense. */
+    bool setSituation(QString const& name, QVariant const& value);
 
     /** How many messages made no sense. */
     int ignoredCount() const;

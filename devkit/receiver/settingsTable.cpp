@@ -22,9 +22,10 @@ unsigned int address(unsigned int a, unsigned int b, unsigned int c, unsigned in
     return a << 24 | b << 16 | c << 8 | d;
 }
 
-rule_t port()
+/** NUM_PORTS itself is the number of no port. */
+rule_t portOrNone()
 {
-    return whole(0, NUM_PORTS - 1);
+    return whole(0, NUM_PORTS);
 }
 
 rule_t ipAddress()
@@ -32,7 +33,8 @@ rule_t ipAddress()
     return whole(0, 4294967295.0);
 }
 
-/** The receiver cannot position without GPS, whatever it is told; and it keeps its table of names. */
+/** The receiver cannot position without GPS and decides on BeiDou itself, whatever it is told; and it keeps its table of
+ *  names. */
 bool adjustMeasUse(settings_t const&, QVariant const& old, QVariant& taken)
 {
     QVariantList table = old.toList();
@@ -44,7 +46,9 @@ bool adjustMeasUse(settings_t const&, QVariant const& old, QVariant& taken)
             QString const name = item.toMap().value("name").toString();
             if (known.value("name").toString().compare(name, Qt::CaseInsensitive) != 0)
                 continue;
-            known["use"] = item.toMap().value("use").toBool() || known.value("name") == "GPS";
+            if (known.value("name") == "GPS" || known.value("name") == "BEI")
+                continue;
+            known["use"] = item.toMap().value("use").toBool();
             entry = known;
         }
     }
@@ -148,7 +152,7 @@ bool adjustDiffConfig(settings_t const&, QVariant const& old, QVariant& taken)
     {
         config["dynamic"] = false;
         taken = config;
-        return config.value("stationId").toUInt() > 0;
+        return config.value("stationId").toUInt() > 0 && config.value("port").toUInt() < NUM_PORTS;
     }
     config["port"] = old.toMap().value("port");
     config["portSet"] = false;
@@ -391,7 +395,7 @@ QList<setting_t> correctionSettings()
               record({{"mode", whole(0, 2)},
                       {"stationId", whole(0, 1023)},
                       {"dynamic", flag()},
-                      {"port", port()},
+                      {"port", portOrNone()},
                       {"portSet", flag()}}),
               &adjustDiffConfig),
         plain("rtcmVersion", 0, whole(0, 1), &adjustRtcmVersion),

@@ -39,7 +39,8 @@ behaviour_t::answer_t web_t::start(link_t* from, QVariant const& value)
 {
     QVariant taken;
     QString why;
-    rule_t const rule = record({{"path", text(4096)}, {"size", whole(0, LARGEST_PACKAGE)}});
+    // A display that cannot read the file gives -1 for its size.
+    rule_t const rule = record({{"path", text(4096)}, {"size", whole(-1, LARGEST_PACKAGE)}});
     outcome_t const outcome = take(rule, value, QVariant(), taken, why);
     if (outcome == MALFORMED)
         return UNREADABLE;
@@ -49,9 +50,11 @@ behaviour_t::answer_t web_t::start(link_t* from, QVariant const& value)
         return DONE;
     }
     m_size = taken.toMap().value("size").toLongLong();
-    if (outcome == REFUSED || m_size == 0)
+    if (outcome == REFUSED || m_size <= 0)
     {
-        end(UPLOAD_ERROR, outcome == REFUSED ? "The package is too large" : "The package is empty");
+        end(UPLOAD_ERROR, outcome == REFUSED ? "The package is too large"
+                          : m_size < 0       ? "The package cannot be read"
+                                             : "The package is empty");
         return DONE;
     }
     receiver.report("webUiUploadState", stateRecord(UPLOAD_IN_PROGRESS, "Receiving the package"));

@@ -3,6 +3,7 @@
 
 #include "brel_common_qt_gui/brelCommonQtGuiExport.h"
 
+#include <QIODevice>
 #include <QString>
 #include <QTextStream>
 

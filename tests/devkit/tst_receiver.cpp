@@ -1,3 +1,4 @@
+#include "link/localLink.h"
 #include "receiver/antennas.h"
 #include "receiver/outputs.h"
 #include "receiver/profileText.h"
@@ -70,11 +71,13 @@ private slots:
     void tellsADisplayOfItsNewPort();
     void goesOnWhenADisplayIsGone();
     void canBeSetFromItsOwnSide();
-    void keepsGpsInUse();
+    void keepsGpsAndBeidouAsTheyAre();
     void takesAddressesOverDhcp();
     void takesAnEthernetCommandWithoutDhcpAsManual();
     void makesABaseStandStill();
     void refusesABaseWithoutAStationId();
+    void refusesABaseWithoutAPort();
+    void needsNoPortAsARover();
     void keepsRtcm23AsABase();
     void deletesTheUserSatellite();
     void selectsTheUserSatelliteOnceDefined();
@@ -84,6 +87,7 @@ private slots:
     void holdsOutputIntervalsWithinItsLimits_data();
     void holdsOutputIntervalsWithinItsLimits();
     void turnsAMessageOff();
+    void needsNoIntervalToTurnAMessageOff();
     void turnsAllMessagesOfAPortOff();
     void ignoresAnUnknownOutputMessage();
     void switchesTheModemInItsTime();
@@ -109,6 +113,10 @@ private slots:
     void drawsACombinedFirmwareFileOnce();
     void failsAFirmwareUpdateWhoseFileEndsEarly();
     void passesOverABlockThatCameTwice();
+    void failsTransfersOfFilesThatCannotBeRead();
+    void failsAnUpdateOfAnUnknownComponent();
+    void setsThePortOfTheLinkWithoutBeingToldWhich();
+    void followsTheSettingsOfItsSerialLine();
     void runsNoTimerWhileItRests();
 
 private:
@@ -347,13 +355,14 @@ void tst_receiver::canBeSetFromItsOwnSide()
     QVERIFY(display->texts().isEmpty());
 }
 
-void tst_receiver::keepsGpsInUse()
+void tst_receiver::keepsGpsAndBeidouAsTheyAre()
 {
     display->command("measUse", QVariantList{QVariantMap{{"name", "GPS"}, {"use", false}},
                                              QVariantMap{{"name", "BEI"}, {"use", false}},
+                                             QVariantMap{{"name", "GLO"}, {"use", false}},
                                              QVariantMap{{"name", "QZSS"}, {"use", true}}});
-    QCOMPARE(display->texts(), QStringList("measUse [name=GPS use=true] [name=GLO use=true] [name=GAL use=true] "
-                                           "[name=BEI use=false]"));
+    QCOMPARE(display->texts(), QStringList("measUse [name=GPS use=true] [name=GLO use=false] [name=GAL use=true] "
+                                           "[name=BEI use=true]"));
 }
 
 void tst_receiver::takesAddressesOverDhcp()
@@ -389,6 +398,21 @@ void tst_receiver::refusesABaseWithoutAStationId()
     display->command("diffConfig",
                      QVariantMap{{"mode", 1}, {"stationId", 0}, {"dynamic", false}, {"port", 8}, {"portSet", true}});
     QCOMPARE(display->last("diffConfig"), before);
+}
+
+void tst_receiver::refusesABaseWithoutAPort()
+{
+    QVariant const before = receiver->setting("diffConfig");
+    display->command("diffConfig",
+                     QVariantMap{{"mode", 1}, {"stationId", 7}, {"dynamic", false}, {"port", 14}, {"portSet", true}});
+    QCOMPARE(display->last("diffConfig"), before);
+}
+
+void tst_receiver::needsNoPortAsARover()
+{
+    display->command("diffConfig",
+                     QVariantMap{{"mode", 0}, {"stationId", 7}, {"dynamic", false}, {"port", 14}, {"portSet", true}});
+    QCOMPARE(display->texts(), QStringList("diffConfig dynamic=false mode=0 port=1 portSet=false stationId=7"));
 }
 
 void tst_receiver::keepsRtcm23AsABase()
@@ -484,6 +508,12 @@ void tst_receiver::turnsAMessageOff()
     display->request("outputs");
     for (QString const& text : display->texts())
         QVERIFY2(!text.contains("NMEAGGA") || !text.contains("port=1"), qPrintable(text));
+}
+
+void tst_receiver::needsNoIntervalToTurnAMessageOff()
+{
+    display->command("output", output(1, "NMEAGGA", 0, std::nan("")));
+    QCOMPARE(display->texts(), QStringList("output interval=0 message=NMEAGGA method=0 port=1"));
 }
 
 void tst_receiver::turnsAllMessagesOfAPortOff()
@@ -814,6 +844,53 @@ void tst_receiver::passesOverABlockThatCameTwice()
     display->command("fileBlock", block("web.pkg", 16384, QByteArray(3616, 'b')));
     QCOMPARE(display->last("webUiUploadState").toMap().value("state"), QVariant(2));
     QCOMPARE(receiver->ignoredCount(), 0);
+}
+
+void tst_receiver::failsTransfersOfFilesThatCannotBeRead()
+{
+    display->command("startWebUiUpload", QVariantMap{{"path", "gone"}, {"size", -1.0}});
+    QCOMPARE(display->texts(), QStringList("webUiUploadState description=The package cannot be read state=0"));
+    display->command("startFirmwareUpdate",
+                     QVariantMap{{"components", QVariantList{component(2, "gone", -1)}}, {"combinedPath", ""}});
+    QCOMPARE(display->last("firmwareUpdateState"),
+             QVariant(QVariantMap{{"state", 0}, {"description", "The file for NAV cannot be read"}}));
+}
+
+void tst_receiver::failsAnUpdateOfAnUnknownComponent()
+{
+    display->command("startFirmwareUpdate",
+                     QVariantMap{{"components", QVariantList{component(255, "what", 5)}}, {"combinedPath", ""}});
+    QCOMPARE(display->last("firmwareUpdateState").toMap().value("state"), QVariant(0));
+}
+
+void tst_receiver::setsThePortOfTheLinkWithoutBeingToldWhich()
+{
+    receiver->setActivePort(display.data(), 3);
+    display->texts();
+    display->command("serialConfig", QVariantMap{{"baud", 4800}, {"charSize", 1}, {"parity", 1}, {"stopBits", 1}});
+    QCOMPARE(display->texts(), QStringList("serialConfig baud=4800 charSize=1 parity=1 port=3 stopBits=1"));
+    receiver->setActivePort(display.data(), 7);
+    display->texts();
+    display->command("serialConfig", QVariantMap{{"baud", 4800}, {"charSize", 1}, {"parity", 1}, {"stopBits", 1}});
+    QVERIFY(display->texts().isEmpty());
+    QCOMPARE(receiver->ignoredCount(), 1);
+}
+
+void tst_receiver::followsTheSettingsOfItsSerialLine()
+{
+    melvox_link::localLinkPair_t pair;
+    pair.receiverEnd()->makeSerial({115200, 8, 'N', 1});
+    receiver->addLink(pair.receiverEnd(), 1);
+    QCOMPARE(display->texts(), QStringList("serialConfig baud=115200 charSize=1 parity=0 port=1 stopBits=0"));
+    melvox_link::line_t line;
+    display->command("serialConfig",
+                     QVariantMap{{"port", 0}, {"baud", 4800}, {"charSize", 1}, {"parity", 1}, {"stopBits", 1}});
+    QVERIFY(pair.receiverEnd()->line(line));
+    QCOMPARE(melvox_link::lineText(line), QString("115200 8N1"));
+    display->command("serialConfig",
+                     QVariantMap{{"port", 1}, {"baud", 9600}, {"charSize", 0}, {"parity", 2}, {"stopBits", 1}});
+    QVERIFY(pair.receiverEnd()->line(line));
+    QCOMPARE(melvox_link::lineText(line), QString("9600 7E2"));
 }
 
 void tst_receiver::runsNoTimerWhileItRests()

@@ -71,7 +71,7 @@ QMap<QString, QVariant> const COMMANDS = {
     {"ntripPPP", QVariantMap{{"mode", 1}, {"protocol", 1}}},
     {"measUse",
      QVariantList{QVariantMap{{"name", "GPS"}, {"use", true}}, QVariantMap{{"name", "GLO"}, {"use", false}},
-                  QVariantMap{{"name", "GAL"}, {"use", true}}, QVariantMap{{"name", "BEI"}, {"use", false}}}},
+                  QVariantMap{{"name", "GAL"}, {"use", true}}, QVariantMap{{"name", "BEI"}, {"use", true}}}},
     {"dynamicConfig", QVariantMap{{"autoMode", false}, {"mode", 3}, {"velocitySmoothing", false}}},
     {"antennaAlignment", QVariantMap{{"mode", 2}, {"angle", 45.5}}},
     {"antennaInfo", QVariantList{antenna("MVXHP7           NONE", "A1", 7), antenna("NONE", "B2", 255)}},

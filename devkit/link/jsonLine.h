@@ -1,0 +1,19 @@
+#ifndef MELVOX_LINK_JSON_LINE_H
+#define MELVOX_LINK_JSON_LINE_H
+
+#include "link/message.h"
+
+#include <QByteArray>
+
+namespace melvox_link
+{
+
+/** A message as one line of JSON, its line feed included. */
+QByteArray toLine(message_t const& message);
+
+/** Reads a line, with or without its line feed. False, and `reason` for people, when it is no message. */
+bool fromLine(QByteArray const& line, message_t& message, QString& reason);
+
+} // namespace melvox_link
+
+#endif

@@ -1,0 +1,201 @@
+#include "link/ptyPort.h"
+#include "link/serialLink.h"
+#include "link/tcpServer.h"
+#include "receiver/receiver.h"
+#include "receiver/stopSignals.h"
+
+#include <QCommandLineParser>
+#include <QCoreApplication>
+#include <QTextStream>
+
+#include <memory>
+#include <vector>
+
+using namespace melvox_link;
+using namespace melvox_receiver;
+
+namespace
+{
+
+int const EXIT_WRONG_USE = 2;
+unsigned int const FIRST_SERIAL_PORT = 0;
+unsigned int const NUM_SERIAL_PORTS = 4;
+unsigned int const FIRST_VIRTUAL_PORT = NUM_PHYSICAL_PORTS;
+
+QString tr(char const* text)
+{
+    return QCoreApplication::translate("melvox_receiver", text);
+}
+
+int fail(int code, QString const& text)
+{
+    QTextStream(stderr) << "melvox_receiver: " << text << '\n';
+    return code;
+}
+
+/** One line for each place, which programs may read: "listening on tcp:127.0.0.1:5000". */
+void tellPlace(QString const& place)
+{
+    QTextStream(stdout) << "listening on " << place << '\n';
+}
+
+/** The receiver with all its ways in. */
+class program_t
+{
+public:
+    program_t() : m_receiver(&m_clock), m_serialPorts(0), m_displays(0) {}
+
+    /** From now on the receiver tells its solution and its heading by itself. */
+    void report();
+
+    bool listenTcp(QString const& text, QString& error);
+    bool openPty(QString& error);
+    bool openSerial(QString const& device, QString& error);
+
+private:
+    unsigned int nextSerialPort() { return FIRST_SERIAL_PORT + m_serialPorts++ % NUM_SERIAL_PORTS; }
+
+    // The receiver goes first, before the links that it is told of.
+    simClock_t m_clock;
+    std::vector<std::unique_ptr<QObject>> m_places;
+    receiver_t m_receiver;
+    unsigned int m_serialPorts;
+    unsigned int m_displays;
+};
+
+void program_t::report()
+{
+    m_receiver.setSituation("solutionReports", true);
+    m_receiver.setSituation("headingReports", true);
+}
+
+bool program_t::listenTcp(QString const& text, QString& error)
+{
+    int const colon = int(text.lastIndexOf(':'));
+    QHostAddress address(QHostAddress::LocalHost);
+    bool isNumber = false;
+    quint16 const port = text.mid(colon + 1).toUShort(&isNumber);
+    if (!isNumber || (colon >= 0 && !address.setAddress(text.left(colon))))
+    {
+        error = tr("\"%1\" is no TCP port: give a number from 0 to 65535, with an address and a colon before it if "
+                   "displays come from other machines.")
+                    .arg(text);
+        return false;
+    }
+    auto server = std::make_unique<tcpServer_t>();
+    if (!server->listen(address, port))
+    {
+        error = tr("cannot listen on TCP port %1 (%2): choose another one, or 0 for any that is free.")
+                    .arg(text, server->errorText());
+        return false;
+    }
+    QObject::connect(server.get(), &tcpServer_t::accepted, &m_receiver,
+                     [this](link_t* link)
+                     {
+                         unsigned int const count = NUM_PORTS - FIRST_VIRTUAL_PORT;
+                         m_receiver.addLink(link, FIRST_VIRTUAL_PORT + m_displays++ % count);
+                     });
+    tellPlace(server->description());
+    m_places.push_back(std::move(server));
+    return true;
+}
+
+bool program_t::openPty(QString& error)
+{
+    auto port = std::make_unique<ptyPort_t>();
+    if (!port->create())
+    {
+        error =
+            tr("the system gives no pseudo-terminal (%1): close some programs and try again.").arg(port->errorText());
+        return false;
+    }
+    m_receiver.addLink(port.get(), nextSerialPort());
+    tellPlace(port->description());
+    m_places.push_back(std::move(port));
+    return true;
+}
+
+bool program_t::openSerial(QString const& device, QString& error)
+{
+    auto link = std::make_unique<serialLink_t>(device);
+    link->start();
+    if (!link->isOpen())
+    {
+        error = tr("cannot open the serial device %1 (%2): check its name and that no other program has it open.")
+                    .arg(device, link->errorText());
+        return false;
+    }
+    m_receiver.addLink(link.get(), nextSerialPort());
+    tellPlace(link->description());
+    m_places.push_back(std::move(link));
+    return true;
+}
+
+bool openPlaces(program_t& program, QCommandLineParser const& parser, QString& error)
+{
+    for (QString const& text : parser.values("tcp"))
+    {
+        if (!program.listenTcp(text, error))
+            return false;
+    }
+    for (QString const& name : parser.optionNames())
+    {
+        if (name == "pty" && !program.openPty(error))
+            return false;
+    }
+    for (QString const& device : parser.values("serial"))
+    {
+        if (!program.openSerial(device, error))
+            return false;
+    }
+    return true;
+}
+
+} // namespace
+
+int main(int argc, char** argv)
+{
+    QCoreApplication application(argc, argv);
+    QCoreApplication::setApplicationName("melvox_receiver");
+    QCoreApplication::setApplicationVersion(MELVOX_VERSION);
+
+    QCommandLineParser parser;
+    parser.setApplicationDescription(tr("A simulated Melvox receiver. Displays reach it at the places that the options "
+                                        "name; each may be given several times."));
+    // Not addHelpOption(), which promises more of Qt's own options than there are.
+    QCommandLineOption const help({"h", "help"}, tr("Lists the options."));
+    parser.addOption(help);
+    QCommandLineOption const version = parser.addVersionOption();
+    parser.addOption({"tcp", tr("Listen on a TCP port of this machine, 0: any that is free."), "[address:]port"});
+    parser.addOption({"pty", tr("Make a pseudo-terminal, a serial line without wires.")});
+    parser.addOption({"serial", tr("Use a serial device."), "device"});
+    parser.addOption({"quiet", tr("Tell no solution and no heading unless asked.")});
+
+    if (!parser.parse(QCoreApplication::arguments()))
+    {
+        QString text = parser.errorText();
+        if (text.endsWith('.'))
+            text.chop(1);
+        return fail(EXIT_WRONG_USE, tr("%1; --help lists the options.").arg(text));
+    }
+    if (parser.isSet(version))
+        parser.showVersion();
+    if (parser.isSet(help))
+        parser.showHelp();
+    if (!parser.positionalArguments().isEmpty())
+        return fail(EXIT_WRONG_USE,
+                    tr("\"%1\" is no option; --help lists the options.").arg(parser.positionalArguments().first()));
+    if (!parser.isSet("tcp") && !parser.isSet("pty") && !parser.isSet("serial"))
+        return fail(EXIT_WRONG_USE, tr("say where displays reach the receiver, with --tcp PORT, --pty or --serial "
+                                       "DEVICE."));
+
+    stopSignals_t stopSignals;
+    QObject::connect(&stopSignals, &stopSignals_t::stop, &application, &QCoreApplication::quit);
+    program_t program;
+    if (!parser.isSet("quiet"))
+        program.report();
+    QString error;
+    if (!openPlaces(program, parser, error))
+        return fail(EXIT_FAILURE, error);
+    return application.exec();
+}

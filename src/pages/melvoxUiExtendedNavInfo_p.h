@@ -1,0 +1,29 @@
+#ifndef MELVOX_UI_EXTENDED_NAV_INFO_P_H
+#define MELVOX_UI_EXTENDED_NAV_INFO_P_H
+
+#include "melvox_ui/melvoxUiExtendedNavInfo.h"
+
+#include "ui_melvoxUiExtendedNavInfo.h"
+
+#include <QTimer>
+
+namespace brel_common_qt
+{
+class remoteMelvoxDevice_t;
+}
+
+namespace brel_common_qt_gui
+{
+
+struct melvoxUiExtendedNavInfo_t::privateData_t
+{
+    explicit privateData_t(brel_common_qt::remoteMelvoxDevice_t* device_);
+
+    brel_common_qt::remoteMelvoxDevice_t* device;
+    Ui_melvoxUiExtendedNavInfo ui;
+    QTimer clearTimer; //!< runs out when the last report is stale
+};
+
+} // namespace brel_common_qt_gui
+
+#endif

@@ -1,0 +1,16 @@
+#ifndef MELVOX_UI_DIALOG_BUTTONS_H
+#define MELVOX_UI_DIALOG_BUTTONS_H
+
+class QDialog;
+class QDialogButtonBox;
+
+namespace brel_common_qt_gui
+{
+
+/** Wires a dialog's own buttons: accepted() to the slot, rejected() to reject(); and makes them large enough for a
+ *  finger. */
+void connectDialogButtons(QDialogButtonBox* box, QDialog* dialog, char const* acceptSlot);
+
+} // namespace brel_common_qt_gui
+
+#endif
