@@ -4,6 +4,7 @@
 #include "brel_common_qt/remoteMelvoxDevice.h"
 #include "melvoxFiles.h"
 #include "portEndpoint.h"
+#include "values.h"
 
 #include <QSet>
 
@@ -17,6 +18,12 @@ namespace melvox_kit
 template <typename value_t> struct cached_t
 {
     cached_t() : valid(false), value() {}
+
+    void set(value_t const& answer)
+    {
+        value = answer;
+        valid = true;
+    }
 
     bool valid;
     value_t value;
@@ -74,16 +81,13 @@ struct remoteMelvoxDevice_t::privateData_t
     std::map<melvoxCorrectionType_t, unsigned int> correctionMaxAge;
     melvox_kit::cached_t<melvoxNtripPPP_t> ntripPPP;
 
-    measUse_t measUse;
+    melvox_kit::cached_t<measUse_t> measUse;
     melvox_kit::cached_t<melvoxDynamicConfig_t> dynamicConfig;
     melvox_kit::cached_t<melvoxExtendedNavInfo_t> extendedNavInfo;
 
-    melvox_kit::cached_t<melvoxAntennaAlignmentMode_t> antennaAlignmentMode;
-    float antennaAlignmentUserAngle;
-    bool antennaInfoValid;
-    melvoxAntennaInfo_t antennaInfo[MELVOX_NUM_ANTENNAS];
-    bool antennaHeightValid;
-    melvoxAntennaHeight_t antennaHeight[MELVOX_NUM_ANTENNAS];
+    melvox_kit::cached_t<melvox_kit::antennaAlignment_t> antennaAlignment;
+    melvox_kit::cached_t<melvox_kit::antennaPair_t<melvoxAntennaInfo_t>> antennaInfo;
+    melvox_kit::cached_t<melvox_kit::antennaPair_t<melvoxAntennaHeight_t>> antennaHeight;
     melvox_kit::cached_t<melvoxAntennaRemote_t> antennaRemote;
     melvox_kit::cached_t<melvoxAntennaDualMode_t> antennaDualMode;
     QStringList antennaList;
@@ -91,13 +95,10 @@ struct remoteMelvoxDevice_t::privateData_t
     melvox_kit::cached_t<melvoxCorrectionSelection_t> correctionSelection;
     melvox_kit::cached_t<melvoxNetPriority_t> netPriority;
     melvox_kit::cached_t<melvoxRtgUseMode_t> rtgUseMode;
-    melvoxCorrectionSatMap_t correctionSats;
-    melvoxCorrectionSatStatsMap_t correctionSatStats;
-    melvox_kit::cached_t<unsigned int> correctionSatInUse;
-    melvox_kit::cached_t<bool> correctionSatAuto;
-    melvox_kit::cached_t<bool> userCorrectionSatDefined;
-    unsigned int userCorrectionSatId;
-    float userCorrectionSatFrequency;
+    melvox_kit::cached_t<melvoxCorrectionSatMap_t> correctionSats;
+    melvox_kit::cached_t<melvox_kit::correctionSatStats_t> correctionSatStats;
+    melvox_kit::cached_t<melvox_kit::correctionSatSelection_t> correctionSatSelection;
+    melvox_kit::cached_t<melvox_kit::userCorrectionSat_t> userCorrectionSat;
     melvox_kit::cached_t<melvoxMrvAlmanacInfo_t> mrvAlmanacInfo;
     melvox_kit::cached_t<bool> newStarfireAlmReady;
     melvox_kit::cached_t<melvoxStarfireAlmSwitchPolicy_t> starfireAlmSwitchPolicy;
@@ -110,24 +111,18 @@ struct remoteMelvoxDevice_t::privateData_t
     melvox_kit::cached_t<melvoxPort_t> activePort;
     std::map<melvoxPort_t, melvoxPortOutputs_t> outputs;
     std::map<melvoxPort_t, PortTxRxInfo> portTxRxInfo;
-    melvox_kit::cached_t<melvoxGgaMode_t> ggaMode;
-    ggaQuality_t ggaQuality;
-    melvoxGgaCorrectionsScaling_t ggaCorrectionsScaling;
+    melvox_kit::cached_t<melvox_kit::ggaSetting_t> ggaMode;
     melvox_kit::cached_t<melvoxTalkerIdMode_t> talkerIdMode;
     bool showDtmWarning;
     melvox_kit::cached_t<melvoxUsbMode_t> usbMode;
 
-    melvox_kit::cached_t<ethernetConfig_t> ethernetConfig[MELVOX_NUM_ETH_CFG_SOURCES];
-    bool ethernetConfigDhcp[MELVOX_NUM_ETH_CFG_SOURCES];
+    std::map<melvoxEthernetConfigSource_t, melvox_kit::ethernetSetting_t> ethernetConfig;
     melvox_kit::cached_t<bool> webUiEnabled;
-    melvoxWebUiUploadState_t webUiUploadState;
-    std::string webUiUploadDescription;
+    melvox_kit::cached_t<melvox_kit::webUiUploadState_t> webUiUploadState;
 
     melvox_kit::cached_t<melvoxPpsConfig_t> ppsConfig;
 
-    bool productInfoValid;
-    std::string serialNumber;
-    std::string modelName;
+    melvox_kit::cached_t<melvox_kit::productInfo_t> productInfo;
     QList<melvoxFirmwareVersion_t> firmwareVersions;
     melvox_kit::cached_t<std::string> activeProfile;
 
