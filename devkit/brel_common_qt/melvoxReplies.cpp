@@ -330,7 +330,17 @@ struct remoteMelvoxDevice_t::privateData_t::replyTable_t
             return true;
         };
         replies["webControl"] = kept("enabled", &cache_t::webUiEnabled, &device_t::webControlUpdated);
-        replies["webUiUploadState"] = kept(&cache_t::webUiUploadState, &device_t::webUiUploadStateUpdated);
+        replies["webUiUploadState"] = [](cache_t& c, QVariant const& v)
+        {
+            webUiUploadState_t state;
+            if (!read(v, state))
+                return false;
+            c.webUiUploadState.set(state);
+            if (state.state != MELVOX_WEB_UI_UPLOAD_IN_PROGRESS)
+                c.webUiFiles.release();
+            emit c.device->webUiUploadStateUpdated();
+            return true;
+        };
         replies["webUiUploadPercent"] = passedOn(&device_t::webUiUploadPercentUpdated);
     }
 
@@ -357,6 +367,9 @@ struct remoteMelvoxDevice_t::privateData_t::replyTable_t
             std::string description;
             if (!readFields(v, "state", state, "description", description))
                 return false;
+            c.firmwareUpdating = state == FIRMWARE_UPDATE_IN_PROGRESS;
+            if (!c.firmwareUpdating)
+                c.firmwareFiles.release();
             emit c.device->firmwareUpdateStateUpdated(state, description);
             return true;
         };

@@ -3,6 +3,7 @@
 #include "remoteMelvoxDevice_p.h"
 #include "values.h"
 
+#include <QTimer>
 #include <QtDebug>
 
 using namespace melvox_kit;
@@ -127,11 +128,25 @@ QVariantMap namedPair(char const* first, QVariant const& firstValue, char const*
     return value;
 }
 
+/** Names a file to the receiver, which may read it from now on. */
+QVariantMap offered(sentFiles_t& files, char const* pathField, char const* sizeField, std::string const& path)
+{
+    qint64 const size = files.offer(write(path).toString(), pathFromText(path));
+    return namedPair(pathField, write(path), sizeField, double(size));
+}
+
+/** The same where an empty path stands for no file. */
+QVariantMap offeredIfAny(sentFiles_t& files, char const* pathField, char const* sizeField, std::string const& path)
+{
+    return path.empty() ? named(pathField, write(path)) : offered(files, pathField, sizeField, path);
+}
+
 } // namespace
 
 remoteMelvoxDevice_t::privateData_t::privateData_t(remoteMelvoxDevice_t* device_, portEndpoint_t* endpoint_)
-    : device(device_), endpoint(endpoint_), taker([this](message_t const& message) { takeOrLog(message); }),
-      showDtmWarning(true)
+    : device(device_), endpoint(endpoint_),
+      listener([this](message_t const& message) { takeOrLog(message); }, [this]() { failDumps(); }),
+      showDtmWarning(true), firmwareUpdating(false)
 {
     webUiUploadState.value.state = MELVOX_WEB_UI_UPLOAD_COMPLETE;
 }
@@ -160,16 +175,16 @@ void remoteMelvoxDevice_t::privateData_t::takeOrLog(message_t const& message)
 
 bool remoteMelvoxDevice_t::privateData_t::sendFileBlock(QVariant const& wanted)
 {
-    std::string path;
-    double offset = 0;
-    double size = 0;
-    if (!readFields(wanted, "path", path) || !readFields(wanted, "offset", offset) ||
-        !readFields(wanted, "size", size) || offset < 0 || size < 1)
+    QString name;
+    qint64 offset = 0;
+    qint64 size = 0;
+    if (!readFields(wanted, "path", name, "offset", offset, "size", size) || offset < 0 || size < 1)
         return false;
-    QVariantMap answer = namedPair("path", write(path), "offset", offset);
+    QVariantMap answer = namedPair("path", name, "offset", double(offset));
     QByteArray block;
     QString reason;
-    if (!sentFiles.read(pathFromText(path), qint64(offset), qint64(size), block, reason))
+    sentFiles_t& files = webUiFiles.isOffered(name) ? webUiFiles : firmwareFiles;
+    if (!files.read(name, offset, size, block, reason))
         answer.insert("error", reason);
     answer.insert("data", block);
     commandNow("fileBlock", answer);
@@ -178,30 +193,43 @@ bool remoteMelvoxDevice_t::privateData_t::sendFileBlock(QVariant const& wanted)
 
 bool remoteMelvoxDevice_t::privateData_t::takeProfileDump(QVariant const& value)
 {
-    std::string path, description;
+    QString name;
+    std::string description;
     bool success = false;
-    if (!readFields(value, "path", path) || !readFields(value, "success", success) ||
-        !readFields(value, "description", description))
+    QByteArray data;
+    if (!readFields(value, "path", name, "success", success, "description", description) ||
+        (success && !readFields(value, "data", data)))
         return false;
     // Only what was asked for is written: a receiver must not be able to choose files of ours.
-    if (!dumps.remove(pathFromText(path)))
+    if (!dumps.contains(name))
         return false;
+    std::string const path = dumps.take(name);
     QString reason;
-    if (success && !writeWhole(pathFromText(path), value.toMap().value("data").toByteArray(), reason))
+    if (success && !writeWhole(pathFromText(path), data, reason))
     {
         success = false;
-        description = QString("The profile could not be written: %1").arg(reason).toStdString();
+        description = textFrom(remoteMelvoxDevice_t::tr("The profile could not be written: %1").arg(reason));
     }
     emit device->profileDumpDone(path, success, description);
     return true;
+}
+
+void remoteMelvoxDevice_t::privateData_t::failDumps()
+{
+    QHash<QString, std::string> const failed = dumps;
+    dumps.clear();
+    for (std::string const& path : failed)
+        emit device->profileDumpDone(path, false,
+                                     textFrom(remoteMelvoxDevice_t::tr("The link to the receiver was lost.")));
 }
 
 remoteMelvoxDevice_t::remoteMelvoxDevice_t(remotePort_t* port, QObject* parent)
     : remoteDevice_t(port, parent), m_data(new privateData_t(this, &port->m_data->endpoint))
 {
     registerMetaTypes();
-    m_data->taker.connect(m_data->endpoint, SIGNAL(received(melvox_link::message_t)),
-                          SLOT(take(melvox_link::message_t)));
+    m_data->listener.connect(m_data->endpoint, SIGNAL(received(melvox_link::message_t)),
+                             SLOT(take(melvox_link::message_t)));
+    m_data->listener.connect(m_data->endpoint, SIGNAL(openChanged(bool)), SLOT(changeOpen(bool)));
 }
 
 remoteMelvoxDevice_t::~remoteMelvoxDevice_t()
@@ -974,9 +1002,10 @@ void remoteMelvoxDevice_t::setWebUiEnabled(bool enabled)
 
 void remoteMelvoxDevice_t::startWebUiUpload(std::string const& path)
 {
-    m_data->sentFiles.withdrawAll();
-    double const size = double(m_data->sentFiles.offer(pathFromText(path)));
-    m_data->command("startWebUiUpload", namedPair("path", write(path), "size", size));
+    // A receiver that is at one upload goes on with that.
+    if (m_data->webUiUploadState.value.state != MELVOX_WEB_UI_UPLOAD_IN_PROGRESS)
+        m_data->webUiFiles.withdrawAll();
+    m_data->command("startWebUiUpload", offered(m_data->webUiFiles, "path", "size", path));
 }
 
 melvoxWebUiUploadState_t remoteMelvoxDevice_t::webUiUploadState() const
@@ -1041,19 +1070,18 @@ QList<melvoxFirmwareVersion_t> const& remoteMelvoxDevice_t::firmwareVersions() c
 void remoteMelvoxDevice_t::startFirmwareUpdate(QList<melvoxFirmwareUpdateComponent_t> const& components,
                                                std::string const& combinedPath)
 {
-    m_data->sentFiles.withdrawAll();
+    if (!m_data->firmwareUpdating)
+        m_data->firmwareFiles.withdrawAll();
     QVariantList list;
     for (melvoxFirmwareUpdateComponent_t const& component : components)
     {
-        QVariantMap value = namedPair("fileIndex", write(component.fileIndex), "component", write(component.component));
-        value.insert("path", write(component.path));
-        if (!component.path.empty())
-            value.insert("size", double(m_data->sentFiles.offer(pathFromText(component.path))));
+        QVariantMap value = offeredIfAny(m_data->firmwareFiles, "path", "size", component.path);
+        value.insert("fileIndex", write(component.fileIndex));
+        value.insert("component", write(component.component));
         list << value;
     }
-    QVariantMap update = namedPair("components", list, "combinedPath", write(combinedPath));
-    if (!combinedPath.empty())
-        update.insert("combinedSize", double(m_data->sentFiles.offer(pathFromText(combinedPath))));
+    QVariantMap update = offeredIfAny(m_data->firmwareFiles, "combinedPath", "combinedSize", combinedPath);
+    update.insert("components", list);
     m_data->commandNow("startFirmwareUpdate", update);
 }
 
@@ -1094,8 +1122,10 @@ std::string const& remoteMelvoxDevice_t::activeProfile() const
 
 void remoteMelvoxDevice_t::dumpAsProfile(std::string const& path)
 {
-    m_data->dumps.insert(pathFromText(path));
+    m_data->dumps.insert(write(path).toString(), path);
     m_data->command("dumpProfile", write(path));
+    if (!m_data->endpoint->isOpen())
+        QTimer::singleShot(0, &m_data->listener, SLOT(lose()));
 }
 
 void remoteMelvoxDevice_t::coldRestart(bool useBuiltInAlmanac)

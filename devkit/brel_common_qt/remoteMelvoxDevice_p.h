@@ -6,7 +6,7 @@
 #include "portEndpoint.h"
 #include "values.h"
 
-#include <QSet>
+#include <QHash>
 
 #include <functional>
 #include <map>
@@ -29,21 +29,29 @@ template <typename value_t> struct cached_t
     value_t value;
 };
 
-/** Brings the port's messages to the proxy. */
-class messageTaker_t : public QObject
+/** Brings what the port tells to the proxy. */
+class portListener_t : public QObject
 {
     Q_OBJECT
 
 public:
-    typedef std::function<void(melvox_link::message_t const&)> taker_t;
+    typedef std::function<void(melvox_link::message_t const&)> taken_t;
+    typedef std::function<void()> lost_t;
 
-    explicit messageTaker_t(taker_t const& taker) : m_taker(taker) {}
+    portListener_t(taken_t const& taken, lost_t const& lost) : m_taken(taken), m_lost(lost) {}
 
-private slots:
-    void take(melvox_link::message_t const& message) { m_taker(message); }
+public slots:
+    void take(melvox_link::message_t const& message) { m_taken(message); }
+    void changeOpen(bool open)
+    {
+        if (!open)
+            lose();
+    }
+    void lose() { m_lost(); }
 
 private:
-    taker_t m_taker;
+    taken_t m_taken;
+    lost_t m_lost;
 };
 
 } // namespace melvox_kit
@@ -69,10 +77,12 @@ struct remoteMelvoxDevice_t::privateData_t
 
     bool sendFileBlock(QVariant const& wanted);
     bool takeProfileDump(QVariant const& value);
+    /** Nobody will answer them any more. */
+    void failDumps();
 
     remoteMelvoxDevice_t* device;
     melvox_kit::portEndpoint_t* endpoint;
-    melvox_kit::messageTaker_t taker;
+    melvox_kit::portListener_t listener;
 
     melvox_kit::cached_t<double> elevationMask;
     melvox_kit::cached_t<double> pdopLimit;
@@ -126,8 +136,10 @@ struct remoteMelvoxDevice_t::privateData_t
     QList<melvoxFirmwareVersion_t> firmwareVersions;
     melvox_kit::cached_t<std::string> activeProfile;
 
-    melvox_kit::sentFiles_t sentFiles;
-    QSet<QString> dumps; //!< paths that dumps are under way for
+    bool firmwareUpdating;
+    melvox_kit::sentFiles_t firmwareFiles;
+    melvox_kit::sentFiles_t webUiFiles;
+    QHash<QString, std::string> dumps; //!< under way: the path as the receiver was told it, and as the page named it
 };
 
 } // namespace brel_common_qt

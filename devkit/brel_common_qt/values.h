@@ -18,8 +18,6 @@ namespace melvox_kit
 
 using namespace brel_common_qt;
 
-bool readNumber(QVariant const& value, double lowest, double highest, double& number);
-
 bool read(QVariant const& value, bool& flag);
 bool read(QVariant const& value, double& number);
 bool read(QVariant const& value, float& number);
@@ -28,6 +26,12 @@ bool read(QVariant const& value, unsigned int& number);
 bool read(QVariant const& value, unsigned short& number);
 bool read(QVariant const& value, unsigned char& number);
 bool read(QVariant const& value, std::string& text);
+bool read(QVariant const& value, QString& text);
+bool read(QVariant const& value, QByteArray& bytes);
+/** Positions in files: whole numbers that a floating number holds exactly. */
+bool read(QVariant const& value, qint64& number);
+
+std::string textFrom(QString const& text);
 
 QVariant write(bool flag);
 QVariant write(double number);
