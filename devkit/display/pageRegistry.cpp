@@ -1,13 +1,17 @@
 #include "display/pageRegistry.h"
 
 #include "display/displaySettingsPage.h"
+#include "melvox_ui/melvoxUiEthernetConfiguration.h"
 #include "melvox_ui/melvoxUiExtendedNavInfo.h"
 #include "melvox_ui/melvoxUiNavigationMode.h"
+#include "melvox_ui/melvoxUiOutputMessages.h"
+#include "melvox_ui/melvoxUiPortConfiguration.h"
 #include "melvox_ui/melvoxUiPpsConfiguration.h"
 #include "melvox_ui/melvoxUiRestart.h"
 #include "melvox_ui/melvoxUiRtkConfiguration.h"
 #include "melvox_ui/melvoxUiSolutionControl.h"
 #include "melvox_ui/melvoxUiVHDInfo.h"
+#include "melvox_ui/melvoxUiWiFiPasskeyDialog.h"
 
 #include <QCoreApplication>
 
@@ -31,6 +35,14 @@ template <typename dialog_t> [[maybe_unused]] QWidget* dialog(remoteMelvoxDevice
     return new dialog_t(device, nullptr);
 }
 
+/** Shown for its looks: this display has no wireless interface to give the key to. */
+QWidget* passkeyDialog(remoteMelvoxDevice_t*)
+{
+    melvoxUiWiFiPasskeyDialog_t* dialog = new melvoxUiWiFiPasskeyDialog_t(nullptr);
+    QObject::connect(dialog, &QDialog::finished, dialog, &melvoxUiWiFiPasskeyDialog_t::clearPasskey);
+    return dialog;
+}
+
 template <typename page_t> QWidget* ownPage(remoteMelvoxDevice_t*)
 {
     return new page_t;
@@ -50,6 +62,10 @@ pageRegistry_t const& allPages()
         {"extendedNavInfo", QT_TRANSLATE_NOOP("pages", "Extended Navigation Info"), s::POSITIONING, page<melvoxUiExtendedNavInfo_t>},
         {"vhdInfo", QT_TRANSLATE_NOOP("pages", "VHD Info"), s::POSITIONING, page<melvoxUiVHDInfo_t>},
         {"restart", QT_TRANSLATE_NOOP("pages", "Restart"), s::POSITIONING, page<melvoxUiRestart_t>},
+        {"outputMessages", QT_TRANSLATE_NOOP("pages", "Output Messages"), s::PORTS, page<melvoxUiOutputMessages_t>},
+        {"portConfiguration", QT_TRANSLATE_NOOP("pages", "Port Configuration"), s::PORTS, page<melvoxUiPortConfiguration_t>},
+        {"ethernetConfiguration", QT_TRANSLATE_NOOP("pages", "Ethernet Configuration"), s::PORTS, page<melvoxUiEthernetConfiguration_t>},
+        {"wiFiPasskey", QT_TRANSLATE_NOOP("pages", "WiFi Passkey"), s::PORTS, passkeyDialog},
         {"displaySettings", QT_TRANSLATE_NOOP("pages", "Display Settings"), s::DISPLAY, ownPage<displaySettingsPage_t>},
     };
     // clang-format on
