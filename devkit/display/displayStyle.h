@@ -1,0 +1,30 @@
+#ifndef MELVOX_DISPLAY_DISPLAY_STYLE_H
+#define MELVOX_DISPLAY_DISPLAY_STYLE_H
+
+#include <QProxyStyle>
+
+class QApplication;
+
+namespace melvox_display
+{
+
+/** What the style sheet cannot say. */
+class displayStyle_t : public QProxyStyle
+{
+    Q_OBJECT
+
+public:
+    displayStyle_t();
+
+    using QProxyStyle::polish;
+    void polish(QWidget* widget) override;
+    int styleHint(StyleHint hint, QStyleOption const* option, QWidget const* widget,
+                  QStyleHintReturn* returnData) const override;
+};
+
+/** Style, font, palette and style sheet of the display. */
+void applyDisplayStyle(QApplication& application);
+
+} // namespace melvox_display
+
+#endif

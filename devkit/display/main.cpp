@@ -1,0 +1,96 @@
+#include "display/displayStyle.h"
+#include "display/displayWindow.h"
+#include "display/options.h"
+#include "display/pageRegistry.h"
+#include "display/tour.h"
+#include "display/uiSettings.h"
+#include "display/unit.h"
+
+#include <QApplication>
+
+#include <cstdio>
+
+namespace
+{
+
+using namespace melvox_display;
+
+int const EXIT_REFUSED = 2;
+
+int answer(parsedOptions_t const& parsed)
+{
+    bool const refused = parsed.result == parsedOptions_t::REFUSE;
+    std::fprintf(refused ? stderr : stdout, "%s%s\n", refused ? "melvox_display: " : "", qPrintable(parsed.text));
+    return refused ? EXIT_REFUSED : 0;
+}
+
+int run(options_t const& options)
+{
+    unit_t unit(options.connection);
+    uiSettings_t settings(options.settingsFile);
+    settings.applyPreferences(options);
+    displayWindow_t window(allPages(), &unit, &settings, options.size);
+    unit.start();
+    window.showFirstPage(options.page);
+    window.show();
+    if (!options.tourDir.isEmpty())
+        return walkTour(window, unit, options.tourDir);
+    return QApplication::exec();
+}
+
+/** What the toolkit takes for itself. */
+QStringList withoutToolkitOptions(QStringList arguments)
+{
+    QStringList const taken = {"platform", "platformpluginpath", "platformtheme", "plugin",
+                               "style",    "stylesheet",         "display",       "geometry",
+                               "session",  "qwindowgeometry"};
+    for (int i = 1; i < arguments.size();)
+    {
+        QString name = arguments.at(i);
+        while (name.startsWith('-'))
+            name.remove(0, 1);
+        bool const isTaken = arguments.at(i).startsWith('-') && taken.contains(name.section('=', 0, 0));
+        if (isTaken && !name.contains('=') && i + 1 < arguments.size())
+            arguments.removeAt(i + 1);
+        if (isTaken)
+            arguments.removeAt(i);
+        else
+            ++i;
+    }
+    return arguments;
+}
+
+/** Pictures need no screen. */
+void goWithoutScreen()
+{
+    bool const chosen = qEnvironmentVariableIsSet("QT_QPA_PLATFORM");
+    bool const hasScreen = qEnvironmentVariableIsSet("DISPLAY") || qEnvironmentVariableIsSet("WAYLAND_DISPLAY");
+#ifdef Q_OS_LINUX
+    if (!chosen && !hasScreen)
+        qputenv("QT_QPA_PLATFORM", "offscreen");
+#else
+    Q_UNUSED(chosen);
+    Q_UNUSED(hasScreen);
+#endif
+}
+
+} // namespace
+
+int main(int argc, char** argv)
+{
+    QStringList arguments;
+    for (int i = 0; i < argc; ++i)
+        arguments << QString::fromLocal8Bit(argv[i]);
+    // Help and refusals must come out where there is no screen to start an application on.
+    parsedOptions_t const parsed = parseOptions(withoutToolkitOptions(arguments), pageNames(allPages()));
+    if (parsed.result != parsedOptions_t::RUN)
+        return answer(parsed);
+    if (!parsed.options.tourDir.isEmpty())
+        goWithoutScreen();
+
+    QCoreApplication::setApplicationName("melvox_display");
+    QCoreApplication::setAttribute(Qt::AA_DontUseNativeDialogs);
+    QApplication application(argc, argv);
+    applyDisplayStyle(application);
+    return run(parsed.options);
+}

@@ -1,0 +1,136 @@
+#include "display/monitorModel.h"
+
+#include <QLocale>
+
+namespace melvox_display
+{
+
+namespace
+{
+
+int const BATCH_MS = 100;
+/** What a cell can show at all; file blocks and lists are far longer. */
+int const CELL_LENGTH = 200;
+
+QString valueText(melvox_link::message_t const& message)
+{
+    return melvox_link::toText(message).mid(message.group.size()).trimmed();
+}
+
+} // namespace
+
+monitorModel_t::monitorModel_t(int maximumRows, QObject* parent)
+    : QAbstractTableModel(parent), m_maximum(qMax(1, maximumRows)), m_arrived(0), m_paused(false), m_timer(this)
+{
+    m_timer.setSingleShot(true);
+    m_timer.setInterval(BATCH_MS);
+    connect(&m_timer, &QTimer::timeout, this, &monitorModel_t::flush);
+}
+
+void monitorModel_t::add(melvox_link::message_t const& message, bool fromDisplay)
+{
+    m_pending.push_back({QDateTime::currentMSecsSinceEpoch(), fromDisplay, message});
+    if (int(m_pending.size()) > m_maximum)
+        m_pending.pop_front();
+    ++m_arrived;
+    if (!m_timer.isActive())
+        m_timer.start();
+}
+
+void monitorModel_t::flush()
+{
+    if (!m_paused && !m_pending.empty())
+    {
+        int const coming = int(m_pending.size());
+        dropOldest(int(m_rows.size()) + coming - m_maximum);
+        int const first = int(m_rows.size());
+        beginInsertRows(QModelIndex(), first, first + coming - 1);
+        m_rows.insert(m_rows.end(), m_pending.begin(), m_pending.end());
+        m_pending.clear();
+        m_arrived = 0;
+        endInsertRows();
+    }
+    emit changed();
+}
+
+void monitorModel_t::dropOldest(int count)
+{
+    if (count <= 0)
+        return;
+    beginRemoveRows(QModelIndex(), 0, count - 1);
+    m_rows.erase(m_rows.begin(), m_rows.begin() + count);
+    endRemoveRows();
+}
+
+void monitorModel_t::setPaused(bool paused)
+{
+    if (paused == m_paused)
+        return;
+    // What came before the pause belongs to what one wanted to look at.
+    if (paused)
+        flush();
+    m_paused = paused;
+    m_timer.stop();
+    flush();
+}
+
+void monitorModel_t::clear()
+{
+    m_timer.stop();
+    beginResetModel();
+    m_rows.clear();
+    m_pending.clear();
+    m_arrived = 0;
+    endResetModel();
+    emit changed();
+}
+
+int monitorModel_t::rowCount(QModelIndex const& parent) const
+{
+    return parent.isValid() ? 0 : int(m_rows.size());
+}
+
+int monitorModel_t::columnCount(QModelIndex const& parent) const
+{
+    return parent.isValid() ? 0 : NUM_COLUMNS;
+}
+
+QVariant monitorModel_t::data(QModelIndex const& index, int role) const
+{
+    if (!index.isValid() || index.row() >= int(m_rows.size()) || role != Qt::DisplayRole)
+        return QVariant();
+    row_t const& row = m_rows[size_t(index.row())];
+    switch (index.column())
+    {
+    case COLUMN_TIME:
+        return QDateTime::fromMSecsSinceEpoch(row.time).toString("hh:mm:ss.zzz");
+    case COLUMN_DIRECTION:
+        return row.fromDisplay ? tr("to receiver") : tr("to display");
+    case COLUMN_KIND:
+        return melvox_link::kindName(row.message.kind);
+    case COLUMN_GROUP:
+        return row.message.group;
+    case COLUMN_VALUE:
+        return valueText(row.message).left(CELL_LENGTH);
+    default:
+        return QVariant();
+    }
+}
+
+QVariant monitorModel_t::headerData(int section, Qt::Orientation orientation, int role) const
+{
+    if (orientation != Qt::Horizontal || role != Qt::DisplayRole)
+        return QVariant();
+    QStringList const titles = {tr("Time"), tr("Direction"), tr("Kind"), tr("Group"), tr("Value")};
+    return titles.value(section);
+}
+
+QString monitorModel_t::textOf(QModelIndex const& index) const
+{
+    if (!index.isValid() || index.row() >= int(m_rows.size()))
+        return QString();
+    row_t const& row = m_rows[size_t(index.row())];
+    return melvox_link::kindName(row.message.kind) + " " + melvox_link::toText(row.message);
+}
+
+} // namespace melvox_display

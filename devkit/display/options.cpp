@@ -1,0 +1,221 @@
+#include "display/options.h"
+
+#include <QCommandLineParser>
+#include <QCoreApplication>
+
+namespace melvox_display
+{
+
+namespace
+{
+
+using namespace brel_common_qt;
+
+QSize const SMALLEST(640, 400);
+QSize const LARGEST(7680, 4320);
+
+QString tr(char const* text)
+{
+    return QCoreApplication::translate("options", text);
+}
+
+QList<QCommandLineOption> knownOptions()
+{
+    return {
+        {"page", tr("Starts on this page."), tr("NAME")},
+        {"connect",
+         tr("The receiver: tcp:HOST:PORT or serial:DEVICE[:BAUD]. Without it, a simulated receiver in this program."),
+         tr("WHERE")},
+        {"size", tr("Size of the unit's screen in pixels, 1024x600 unless told."), tr("WxH")},
+        {"tour", tr("Walks all pages and dialogs, writes pictures of them to this folder and ends."), tr("DIR")},
+        {"units", tr("Heights and distances in m or ft, for this run."), "m|ft"},
+        {"format", tr("Positions in deg, dm or dms, for this run."), "deg|dm|dms"},
+        {"settings", tr("Keeps the user-interface settings in this file."), tr("FILE")},
+        {QStringList{"h", "help"}, tr("Shows this text.")},
+        {QStringList{"v", "version"}, tr("Shows the version.")},
+    };
+}
+
+QString listOfOptions()
+{
+    QStringList names;
+    for (QCommandLineOption const& option : knownOptions())
+        names << "--" + option.names().last();
+    return names.join(", ");
+}
+
+/** Empty, or what is wrong. */
+QString readPage(QString const& text, QStringList const& pages, options_t& options)
+{
+    options.page = text;
+    if (pages.contains(text))
+        return QString();
+    return tr("There is no page \"%1\". The pages are: %2.").arg(text, pages.join(", "));
+}
+
+bool readPort(QString const& text, connection_t& connection)
+{
+    bool isNumber = false;
+    connection.port = text.toInt(&isNumber);
+    return isNumber && connection.port >= 1 && connection.port <= 65535;
+}
+
+bool readTcp(QString const& place, connection_t& connection)
+{
+    int const colon = place.lastIndexOf(':');
+    connection.kind = connection_t::TCP;
+    connection.host = place.left(qMax(0, colon));
+    if (connection.host.startsWith('[') && connection.host.endsWith(']'))
+        connection.host = connection.host.mid(1, connection.host.size() - 2);
+    return !connection.host.isEmpty() && readPort(place.mid(colon + 1), connection);
+}
+
+bool readSerial(QString const& place, connection_t& connection)
+{
+    int const colon = place.lastIndexOf(':');
+    connection.kind = connection_t::SERIAL;
+    connection.device = colon < 0 ? place : place.left(colon);
+    if (connection.device.isEmpty())
+        return false;
+    if (colon < 0)
+        return true;
+    bool isNumber = false;
+    connection.baud = place.mid(colon + 1).toInt(&isNumber);
+    return isNumber && connection.baud > 0;
+}
+
+QString readConnection(QString const& text, options_t& options)
+{
+    connection_t& connection = options.connection;
+    bool const good = text.startsWith("tcp:")      ? readTcp(text.mid(4), connection)
+                      : text.startsWith("serial:") ? readSerial(text.mid(7), connection)
+                                                   : false;
+    if (good)
+        return QString();
+    return tr("--connect takes tcp:HOST:PORT (such as tcp:192.168.0.7:5000) or serial:DEVICE[:BAUD] (such as "
+              "serial:/dev/ttyS0:115200), not \"%1\".")
+        .arg(text);
+}
+
+QString readSize(QString const& text, options_t& options)
+{
+    QStringList const parts = text.split('x');
+    bool isWidth = false;
+    bool isHeight = false;
+    QSize const size(parts.value(0).toInt(&isWidth), parts.value(1).toInt(&isHeight));
+    bool const good = parts.size() == 2 && isWidth && isHeight && size.expandedTo(SMALLEST) == size &&
+                      size.boundedTo(LARGEST) == size;
+    if (!good)
+        return tr("--size takes a width and a height in pixels such as 1024x600 or 800x480, at least %1x%2, not "
+                  "\"%3\".")
+            .arg(SMALLEST.width())
+            .arg(SMALLEST.height())
+            .arg(text);
+    options.size = size;
+    return QString();
+}
+
+QString readUnits(QString const& text, options_t& options)
+{
+    if (text == "m")
+        options.units = DISTANCE_UNIT_METER;
+    else if (text == "ft")
+        options.units = DISTANCE_UNIT_US_SURVEY_FOOT;
+    else
+        return tr("--units takes m or ft, not \"%1\".").arg(text);
+    return QString();
+}
+
+QString readFormat(QString const& text, options_t& options)
+{
+    QStringList const known = {"deg", "dm", "dms"};
+    if (!known.contains(text))
+        return tr("--format takes deg, dm or dms, not \"%1\".").arg(text);
+    options.format = static_cast<latLonFormat_t>(known.indexOf(text));
+    return QString();
+}
+
+QString readFileName(QString const& option, QString const& text, QString& name)
+{
+    name = text;
+    return text.isEmpty() ? tr("%1 needs a name.").arg(option) : QString();
+}
+
+QString readValues(QCommandLineParser const& parser, QStringList const& pages, options_t& options)
+{
+    QStringList faults;
+    if (parser.isSet("page"))
+        faults << readPage(parser.value("page"), pages, options);
+    if (parser.isSet("connect"))
+        faults << readConnection(parser.value("connect"), options);
+    if (parser.isSet("size"))
+        faults << readSize(parser.value("size"), options);
+    if (parser.isSet("tour"))
+        faults << readFileName("--tour", parser.value("tour"), options.tourDir);
+    if (parser.isSet("units"))
+        faults << readUnits(parser.value("units"), options);
+    if (parser.isSet("format"))
+        faults << readFormat(parser.value("format"), options);
+    if (parser.isSet("settings"))
+        faults << readFileName("--settings", parser.value("settings"), options.settingsFile);
+    faults.removeAll(QString());
+    return faults.value(0);
+}
+
+/** One sentence for the first thing that the parser did not understand. */
+QString misunderstood(QCommandLineParser const& parser)
+{
+    QStringList const unknown = parser.unknownOptionNames();
+    if (!unknown.isEmpty())
+        return tr("There is no option \"%1\". The options are: %2.")
+            .arg((unknown.first().size() > 1 ? "--" : "-") + unknown.first(), listOfOptions());
+    QString text = parser.errorText();
+    if (!text.isEmpty() && !text.endsWith('.'))
+        text += '.';
+    return tr("%1 The options are: %2.").arg(text, listOfOptions());
+}
+
+QString helpText(QStringList const& pages)
+{
+    QString text = tr("Usage: %1 [options]").arg("melvox_display") + "\n" +
+                   tr("The display unit of a machine with a Melvox receiver.") + "\n\n";
+    for (QCommandLineOption const& option : knownOptions())
+    {
+        QString const head = "--" + option.names().last() + " " + option.valueName();
+        text += "  " + head.leftJustified(24) + option.description() + "\n";
+    }
+    return text + "\n" + tr("Pages: %1").arg(pages.join(", ")) + "\n";
+}
+
+parsedOptions_t answer(parsedOptions_t::result_t result, QString const& text)
+{
+    parsedOptions_t parsed;
+    parsed.result = result;
+    parsed.text = text;
+    return parsed;
+}
+
+} // namespace
+
+parsedOptions_t parseOptions(QStringList const& arguments, QStringList const& pages)
+{
+    QCommandLineParser parser;
+    parser.addOptions(knownOptions());
+    bool const understood = parser.parse(arguments);
+    if (understood && parser.isSet("help"))
+        return answer(parsedOptions_t::SHOW, helpText(pages));
+    if (understood && parser.isSet("version"))
+        return answer(parsedOptions_t::SHOW, QString("melvox_display %1\n").arg(MELVOX_VERSION));
+    if (!understood)
+        return answer(parsedOptions_t::REFUSE, misunderstood(parser));
+    QStringList const others = parser.positionalArguments();
+    if (!others.isEmpty())
+        return answer(parsedOptions_t::REFUSE,
+                      tr("\"%1\" is no option. The options are: %2.").arg(others.first(), listOfOptions()));
+    parsedOptions_t parsed;
+    parsed.text = readValues(parser, pages, parsed.options);
+    parsed.result = parsed.text.isEmpty() ? parsedOptions_t::RUN : parsedOptions_t::REFUSE;
+    return parsed;
+}
+
+} // namespace melvox_display

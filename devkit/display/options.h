@@ -1,0 +1,64 @@
+#ifndef MELVOX_DISPLAY_OPTIONS_H
+#define MELVOX_DISPLAY_OPTIONS_H
+
+#include "brel_common_qt/units.h"
+
+#include <QSize>
+#include <QString>
+#include <QStringList>
+
+#include <optional>
+
+namespace melvox_display
+{
+
+/** Where the receiver is. */
+struct connection_t
+{
+    enum kind_t
+    {
+        SIMULATED, //!< in this very process
+        TCP,
+        SERIAL
+    };
+
+    kind_t kind = SIMULATED;
+    QString host;
+    int port = 0;
+    QString device;
+    int baud = 115200;
+};
+
+/** What the command line asks for. */
+struct options_t
+{
+    QString page; //!< empty: the last one, or the first
+    connection_t connection;
+    QSize size = QSize(1024, 600);
+    QString tourDir;                                     //!< empty: no tour
+    std::optional<brel_common_qt::distanceUnit_t> units; //!< not given: as stored
+    std::optional<brel_common_qt::latLonFormat_t> format;
+    QString settingsFile; //!< empty: the user's own
+};
+
+/** What to do with a command line. */
+struct parsedOptions_t
+{
+    enum result_t
+    {
+        RUN,
+        SHOW,  //!< print the text and leave with success
+        REFUSE //!< print the text as an error and leave with 2
+    };
+
+    result_t result = RUN;
+    QString text;
+    options_t options;
+};
+
+/** `arguments` begin with the program's name. `pages` are the names that --page takes. Needs no application object. */
+parsedOptions_t parseOptions(QStringList const& arguments, QStringList const& pages);
+
+} // namespace melvox_display
+
+#endif

@@ -1,0 +1,116 @@
+#include "display/pageRegistry.h"
+
+#include "display/displaySettingsPage.h"
+#include "melvox_ui/melvoxUiEthernetConfiguration.h"
+#include "melvox_ui/melvoxUiExtendedNavInfo.h"
+#include "melvox_ui/melvoxUiNavigationMode.h"
+#include "melvox_ui/melvoxUiOutputMessages.h"
+#include "melvox_ui/melvoxUiPortConfiguration.h"
+#include "melvox_ui/melvoxUiPpsConfiguration.h"
+#include "melvox_ui/melvoxUiRestart.h"
+#include "melvox_ui/melvoxUiRtkConfiguration.h"
+#include "melvox_ui/melvoxUiSolutionControl.h"
+#include "melvox_ui/melvoxUiVHDInfo.h"
+#include "melvox_ui/melvoxUiWiFiPasskeyDialog.h"
+
+#include <QCoreApplication>
+
+namespace melvox_display
+{
+
+namespace
+{
+
+using namespace brel_common_qt_gui;
+using brel_common_qt::remoteMelvoxDevice_t;
+
+template <typename page_t> QWidget* page(remoteMelvoxDevice_t* device)
+{
+    return new page_t(device);
+}
+
+/** For dialogs that no page opens. */
+template <typename dialog_t> [[maybe_unused]] QWidget* dialog(remoteMelvoxDevice_t* device)
+{
+    return new dialog_t(device, nullptr);
+}
+
+/** Shown for its looks: this display has no wireless interface to give the key to. */
+QWidget* passkeyDialog(remoteMelvoxDevice_t*)
+{
+    melvoxUiWiFiPasskeyDialog_t* dialog = new melvoxUiWiFiPasskeyDialog_t(nullptr);
+    QObject::connect(dialog, &QDialog::finished, dialog, &melvoxUiWiFiPasskeyDialog_t::clearPasskey);
+    return dialog;
+}
+
+template <typename page_t> QWidget* ownPage(remoteMelvoxDevice_t*)
+{
+    return new page_t;
+}
+
+} // namespace
+
+pageRegistry_t const& allPages()
+{
+    typedef subsystem_t s;
+    // clang-format off
+    static pageRegistry_t const pages = {
+        {"solutionControl", QT_TRANSLATE_NOOP("pages", "Solution Control"), s::POSITIONING, page<melvoxUiSolutionControl_t>},
+        {"navigationMode", QT_TRANSLATE_NOOP("pages", "Navigation Mode"), s::POSITIONING, page<melvoxUiNavigationMode_t>},
+        {"rtkConfiguration", QT_TRANSLATE_NOOP("pages", "RTK Configuration"), s::POSITIONING, page<melvoxUiRtkConfiguration_t>},
+        {"ppsConfiguration", QT_TRANSLATE_NOOP("pages", "1PPS Settings"), s::POSITIONING, page<melvoxUiPpsConfiguration_t>},
+        {"extendedNavInfo", QT_TRANSLATE_NOOP("pages", "Extended Navigation Info"), s::POSITIONING, page<melvoxUiExtendedNavInfo_t>},
+        {"vhdInfo", QT_TRANSLATE_NOOP("pages", "VHD Info"), s::POSITIONING, page<melvoxUiVHDInfo_t>},
+        {"restart", QT_TRANSLATE_NOOP("pages", "Restart"), s::POSITIONING, page<melvoxUiRestart_t>},
+        {"outputMessages", QT_TRANSLATE_NOOP("pages", "Output Messages"), s::PORTS, page<melvoxUiOutputMessages_t>},
+        {"portConfiguration", QT_TRANSLATE_NOOP("pages", "Port Configuration"), s::PORTS, page<melvoxUiPortConfiguration_t>},
+        {"ethernetConfiguration", QT_TRANSLATE_NOOP("pages", "Ethernet Configuration"), s::PORTS, page<melvoxUiEthernetConfiguration_t>},
+        {"wiFiPasskey", QT_TRANSLATE_NOOP("pages", "WiFi Passkey"), s::PORTS, passkeyDialog},
+        {"displaySettings", QT_TRANSLATE_NOOP("pages", "Display Settings"), s::DISPLAY, ownPage<displaySettingsPage_t>},
+    };
+    // clang-format on
+    return pages;
+}
+
+pageEntry_t const* findPage(pageRegistry_t const& pages, QString const& name)
+{
+    for (pageEntry_t const& entry : pages)
+    {
+        if (name == entry.name)
+            return &entry;
+    }
+    return nullptr;
+}
+
+QStringList pageNames(pageRegistry_t const& pages)
+{
+    QStringList names;
+    for (pageEntry_t const& entry : pages)
+        names << entry.name;
+    return names;
+}
+
+QString titleOf(pageEntry_t const& page)
+{
+    return QCoreApplication::translate("pages", page.title);
+}
+
+QString headingOf(subsystem_t subsystem)
+{
+    switch (subsystem)
+    {
+    case subsystem_t::POSITIONING:
+        return QCoreApplication::translate("pages", "Positioning and Status");
+    case subsystem_t::CORRECTIONS:
+        return QCoreApplication::translate("pages", "Corrections, Differential and Antennas");
+    case subsystem_t::PORTS:
+        return QCoreApplication::translate("pages", "Ports, Output and Network");
+    case subsystem_t::FIRMWARE:
+        return QCoreApplication::translate("pages", "Firmware, Profiles and Receiver");
+    case subsystem_t::DISPLAY:
+        return QCoreApplication::translate("pages", "Display");
+    }
+    return QString();
+}
+
+} // namespace melvox_display

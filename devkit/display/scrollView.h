@@ -1,0 +1,20 @@
+#ifndef MELVOX_DISPLAY_SCROLL_VIEW_H
+#define MELVOX_DISPLAY_SCROLL_VIEW_H
+
+class QAbstractScrollArea;
+class QScrollArea;
+class QWidget;
+
+namespace melvox_display
+{
+
+/** A place for a page: as wide as there is room, scrolled up and down with a finger when it is higher. Takes the
+ *  content over; content that is destroyed or taken elsewhere leaves the view empty. */
+QScrollArea* createScrollView(QWidget* content, QWidget* parent);
+
+/** Lets a finger scroll these contents. */
+void scrollByFinger(QAbstractScrollArea* area);
+
+} // namespace melvox_display
+
+#endif

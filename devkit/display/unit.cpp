@@ -1,0 +1,130 @@
+#include "display/unit.h"
+
+#include "brel_common_qt/kitPort.h"
+#include "brel_common_qt/remoteMelvoxDevice.h"
+#include "link/linkTap.h"
+#include "link/localLink.h"
+#include "link/serialLink.h"
+#include "link/tcpLink.h"
+#include "receiver/receiver.h"
+#include "receiver/simClock.h"
+
+namespace melvox_display
+{
+
+namespace
+{
+
+/** As a serial line at a usual rate feels. */
+int const LATENCY_MS = 30;
+
+melvox_kit::linkKind_t kindOf(connection_t const& connection)
+{
+    switch (connection.kind)
+    {
+    case connection_t::TCP:
+        return melvox_kit::LINK_TCP;
+    case connection_t::SERIAL:
+        return melvox_kit::LINK_SERIAL;
+    case connection_t::SIMULATED:
+        break;
+    }
+    return melvox_kit::LINK_OTHER;
+}
+
+} // namespace
+
+unit_t::unit_t(connection_t const& connection, QObject* parent) : QObject(parent), m_started(false), m_wasOpen(false)
+{
+    melvox_link::link_t* link = createLink(connection);
+    m_tap = std::make_unique<melvox_link::linkTap_t>(link);
+    brel_common_qt::remotePort_t* port = melvox_kit::createPort(m_tap.get(), kindOf(connection));
+    m_device = std::make_unique<brel_common_qt::remoteMelvoxDevice_t>(port);
+    connect(m_tap.get(), &melvox_link::link_t::openChanged, this, &unit_t::takeOpen);
+}
+
+unit_t::~unit_t()
+{
+    // The proxy first: it stands on the link.
+    m_device.reset();
+    m_tap.reset();
+}
+
+melvox_link::link_t* unit_t::createSimulated()
+{
+    m_clock = std::make_unique<melvox_receiver::simClock_t>();
+    m_pair = std::make_unique<melvox_link::localLinkPair_t>();
+    m_pair->setLatency(LATENCY_MS);
+    m_receiver = std::make_unique<melvox_receiver::receiver_t>(m_pair->receiverEnd(), m_clock.get());
+    m_receiver->setSituation("solutionReports", true);
+    m_receiver->setSituation("headingReports", true);
+    return m_pair->displayEnd();
+}
+
+template <typename link_t> melvox_link::link_t* unit_t::keepStream(std::unique_ptr<link_t> link)
+{
+    link_t* stream = link.get();
+    m_startStream = [stream]() { stream->start(); };
+    m_stream = std::move(link);
+    return stream;
+}
+
+melvox_link::link_t* unit_t::createLink(connection_t const& connection)
+{
+    switch (connection.kind)
+    {
+    case connection_t::TCP:
+        return keepStream(std::make_unique<melvox_link::tcpLink_t>(connection.host, quint16(connection.port)));
+    case connection_t::SERIAL:
+        return keepStream(std::make_unique<melvox_link::serialLink_t>(connection.device, connection.baud));
+    case connection_t::SIMULATED:
+        break;
+    }
+    return createSimulated();
+}
+
+void unit_t::start()
+{
+    m_started = true;
+    if (m_tap->isOpen())
+        takeOpen(true);
+    else if (m_startStream)
+        m_startStream();
+}
+
+bool unit_t::isSimulated() const
+{
+    // Real receivers speak to the maker's proxy; the kit's messages are spoken by simulated ones only.
+    return true;
+}
+
+QString unit_t::description() const
+{
+    return m_receiver ? tr("in this program") : m_tap->description();
+}
+
+linkState_t unit_t::linkState() const
+{
+    if (m_started && m_tap->isOpen())
+        return linkState_t::CONNECTED;
+    return m_wasOpen ? (m_stream ? linkState_t::RECONNECTING : linkState_t::INTERRUPTED) : linkState_t::CONNECTING;
+}
+
+void unit_t::takeOpen(bool open)
+{
+    if (!m_started)
+        return;
+    m_wasOpen = m_wasOpen || open;
+    emit linkStateChanged();
+    // What was known may have changed while nobody could tell. Not at once: the other end may hear of it after this one.
+    if (open)
+        QMetaObject::invokeMethod(this, &unit_t::askForEverything, Qt::QueuedConnection);
+}
+
+void unit_t::askForEverything()
+{
+    if (m_tap->isOpen())
+        m_device->queryAll();
+}
+
+} // namespace melvox_display
