@@ -2,12 +2,18 @@
 
 #include "display/displaySettingsPage.h"
 #include "melvox_ui/melvoxUiExtendedNavInfo.h"
+#include "melvox_ui/melvoxUiFirmwareUpdate.h"
 #include "melvox_ui/melvoxUiNavigationMode.h"
 #include "melvox_ui/melvoxUiPpsConfiguration.h"
+#include "melvox_ui/melvoxUiProfileDumper.h"
+#include "melvox_ui/melvoxUiProfileLoader.h"
+#include "melvox_ui/melvoxUiReceiverInformation.h"
 #include "melvox_ui/melvoxUiRestart.h"
 #include "melvox_ui/melvoxUiRtkConfiguration.h"
+#include "melvox_ui/melvoxUiSettingsProfiles.h"
 #include "melvox_ui/melvoxUiSolutionControl.h"
 #include "melvox_ui/melvoxUiVHDInfo.h"
+#include "melvox_ui/melvoxUiWebInterface.h"
 
 #include <QCoreApplication>
 
@@ -36,6 +42,21 @@ template <typename page_t> QWidget* ownPage(remoteMelvoxDevice_t*)
     return new page_t;
 }
 
+/** The profiles page keeps these for whatever controls there are: here, entries of the menu. */
+void dumpProfile(QWidget* page)
+{
+    static_cast<melvoxUiSettingsProfiles_t*>(page)->profileDumper()->dumpSettings();
+}
+
+void loadProfile(QWidget* page)
+{
+    melvoxUiProfileLoader_t* const loader = static_cast<melvoxUiSettingsProfiles_t*>(page)->profileLoader();
+    if (loader->isLoading())
+        loader->showProgress();
+    else
+        loader->loadProfile();
+}
+
 } // namespace
 
 pageRegistry_t const& allPages()
@@ -50,6 +71,12 @@ pageRegistry_t const& allPages()
         {"extendedNavInfo", QT_TRANSLATE_NOOP("pages", "Extended Navigation Info"), s::POSITIONING, page<melvoxUiExtendedNavInfo_t>},
         {"vhdInfo", QT_TRANSLATE_NOOP("pages", "VHD Info"), s::POSITIONING, page<melvoxUiVHDInfo_t>},
         {"restart", QT_TRANSLATE_NOOP("pages", "Restart"), s::POSITIONING, page<melvoxUiRestart_t>},
+        {"webInterface", QT_TRANSLATE_NOOP("pages", "Web Interface"), s::PORTS, page<melvoxUiWebInterface_t>},
+        {"firmwareUpdate", QT_TRANSLATE_NOOP("pages", "Firmware Update"), s::FIRMWARE, page<melvoxUiFirmwareUpdate_t>},
+        {"settingsProfiles", QT_TRANSLATE_NOOP("pages", "Settings Profiles"), s::FIRMWARE, page<melvoxUiSettingsProfiles_t>},
+        {"dumpProfile", QT_TRANSLATE_NOOP("pages", "Dump Profile to File"), s::FIRMWARE, nullptr, "settingsProfiles", dumpProfile},
+        {"loadProfile", QT_TRANSLATE_NOOP("pages", "Load Profile From File"), s::FIRMWARE, nullptr, "settingsProfiles", loadProfile},
+        {"receiverInformation", QT_TRANSLATE_NOOP("pages", "Receiver Information"), s::FIRMWARE, page<melvoxUiReceiverInformation_t>},
         {"displaySettings", QT_TRANSLATE_NOOP("pages", "Display Settings"), s::DISPLAY, ownPage<displaySettingsPage_t>},
     };
     // clang-format on
