@@ -49,6 +49,10 @@ void behaviour_t::linkClosed(link_t*)
 {
 }
 
+void behaviour_t::lockChanged()
+{
+}
+
 void behaviour_t::restarted()
 {
 }

@@ -47,6 +47,9 @@ public:
     /** That display is gone. */
     virtual void linkClosed(link_t* link);
 
+    /** Another display has the receiver for itself now, or none. */
+    virtual void lockChanged();
+
     /** The receiver starts anew, as after a loss of power: settings stay. */
     virtual void restarted();
 

@@ -30,7 +30,7 @@ int findRecord(setting_t const& setting, QVariantList const& records, QVariant c
 } // namespace
 
 receiver_t::receiver_t(simClock_t* clock, QObject* parent)
-    : QObject(parent), m_clock(clock), m_settings(startSettings()), m_ignoredCount(0)
+    : QObject(parent), m_clock(clock), m_settings(startSettings()), m_lockHolder(nullptr), m_lock(0), m_ignoredCount(0)
 {
     connect(clock, &simClock_t::ticked, this, &receiver_t::advance);
     m_behaviours = makeBehaviours(*this);
@@ -347,6 +347,23 @@ void receiver_t::event(QString const& group, QVariant const& value)
 void receiver_t::event(link_t* to, QString const& group, QVariant const& value)
 {
     send(to, message_t(message_t::EVENT, group, value));
+}
+
+void receiver_t::setLock(link_t* holder, int state)
+{
+    link_t* const before = m_lockHolder;
+    m_lockHolder = holder;
+    m_lock = holder ? state : 0;
+    if (before != holder)
+    {
+        for (auto const& behaviour : m_behaviours)
+            behaviour->lockChanged();
+    }
+}
+
+int receiver_t::lockOf(link_t* link) const
+{
+    return link && link == m_lockHolder ? m_lock : 0;
 }
 
 void receiver_t::wantTicks(behaviour_t* who, bool wanted)

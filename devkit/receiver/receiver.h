@@ -82,6 +82,10 @@ public:
     /** What one of the behaviours knows; see behaviour_t::answer(). Invalid: none does. */
     QVariant ask(QString const& name, qint64 at);
 
+    /** Who has the receiver for himself, and how: 0 for nobody, 1 for the framework, 2 for a plug-in. */
+    void setLock(link_t* holder, int state);
+    int lockOf(link_t* link) const; //!< 0 for everybody but the holder
+
     /** All behaviours start anew, as after a loss of power. */
     void restart();
 
@@ -114,6 +118,8 @@ private:
     simClock_t* m_clock;
     settings_t m_settings;
     QList<display_t> m_displays;
+    link_t* m_lockHolder;
+    int m_lock;
     int m_ignoredCount;
     QSet<behaviour_t*> m_ticking;
     std::vector<std::unique_ptr<behaviour_t>> m_behaviours;

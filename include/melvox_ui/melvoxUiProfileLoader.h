@@ -29,6 +29,10 @@ public:
     melvoxUiProfileLoader_t(brel_common_qt::remoteMelvoxDevice_t* device, QObject* parent);
     ~melvoxUiProfileLoader_t();
 
+    /** For a host whose operator went elsewhere and comes back. */
+    bool isLoading() const;
+    void showProgress();
+
 public slots:
     /** The way in, for whatever control the host gives the operator. Returns at once. */
     void loadProfile();

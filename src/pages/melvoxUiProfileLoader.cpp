@@ -83,6 +83,16 @@ void melvoxUiProfileLoader_t::createUsbDialogs()
     m_data->listPage = new dialogPage_t(m_data->listDialog);
 }
 
+bool melvoxUiProfileLoader_t::isLoading() const
+{
+    return m_data->file != nullptr;
+}
+
+void melvoxUiProfileLoader_t::showProgress()
+{
+    m_data->progressPage->show();
+}
+
 void melvoxUiProfileLoader_t::loadProfile()
 {
     if (m_data->driveSelectPage)

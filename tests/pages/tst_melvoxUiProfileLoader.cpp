@@ -83,6 +83,7 @@ private slots:
     void canLoadAgainAfterEachEnd();
     void keepsTheDialogOpenWithTheLastStatus();
     void goesOnWhenItsDialogIsClosed();
+    void showsItsProgressAgain();
     void tellsOfALinkThatBreaks();
     void givesTheLockBackWhenItIsDestroyed();
     void cancelsNothingWhileIdle();
@@ -466,6 +467,21 @@ void tst_melvoxUiProfileLoader::goesOnWhenItsDialogIsClosed()
     QCOMPARE(int(blocks().size()), 3);
     result(0);
     QCOMPARE(locks().last(), QString("portLock 0"));
+}
+
+void tst_melvoxUiProfileLoader::showsItsProgressAgain()
+{
+    QVERIFY(!loader->isLoading());
+    startLoad(3000);
+    QVERIFY(loader->isLoading());
+    tap(progress(), "Close");
+    result(0);
+    loader->showProgress();
+    QCOMPARE(status(), QString("Loading data (1024/3000)"));
+    QVERIFY(canCancel());
+    result(0);
+    result(0);
+    QVERIFY(!loader->isLoading());
 }
 
 void tst_melvoxUiProfileLoader::tellsOfALinkThatBreaks()
