@@ -1,3 +1,5 @@
+#include "brel_common_qt/kitUsb.h"
+#include "brel_common_qt/usbDriveManager.h"
 #include "display/displayStyle.h"
 #include "display/displayWindow.h"
 #include "display/options.h"
@@ -9,6 +11,7 @@
 #include <QApplication>
 
 #include <cstdio>
+#include <memory>
 
 namespace
 {
@@ -26,6 +29,11 @@ int answer(parsedOptions_t const& parsed)
 
 int run(options_t const& options)
 {
+    // Before any page, and pictures of the drives' dialogs need drives, or the lack of them.
+    std::unique_ptr<brel_common_qt::usbDriveManager_t> drives;
+    melvox_kit::setUsbRoot(options.usbDir);
+    if (!options.usbDir.isEmpty() || !options.tourDir.isEmpty())
+        drives = std::make_unique<brel_common_qt::usbDriveManager_t>();
     unit_t unit(options.connection);
     uiSettings_t settings(options.settingsFile);
     settings.applyPreferences(options);

@@ -2,6 +2,7 @@
 
 #include <QCommandLineParser>
 #include <QCoreApplication>
+#include <QFileInfo>
 
 namespace melvox_display
 {
@@ -27,6 +28,8 @@ QList<QCommandLineOption> knownOptions()
          tr("The receiver: tcp:HOST:PORT or serial:DEVICE[:BAUD]. Without it, a simulated receiver in this program."),
          tr("WHERE")},
         {"size", tr("Size of the unit's screen in pixels, 1024x600 unless told."), tr("WxH")},
+        {"usb", tr("Each folder in this one is a USB drive. Without it, files are chosen in a file dialog."),
+         tr("DIR")},
         {"tour", tr("Walks all pages and dialogs, writes pictures of them to this folder and ends."), tr("DIR")},
         {"units", tr("Heights and distances in m or ft, for this run."), "m|ft"},
         {"format", tr("Positions in deg, dm or dms, for this run."), "deg|dm|dms"},
@@ -135,6 +138,14 @@ QString readFormat(QString const& text, options_t& options)
     return QString();
 }
 
+QString readUsb(QString const& text, options_t& options)
+{
+    options.usbDir = text;
+    if (QFileInfo(text).isDir())
+        return QString();
+    return tr("--usb takes a folder whose folders are the drives; there is no folder \"%1\".").arg(text);
+}
+
 QString readFileName(QString const& option, QString const& text, QString& name)
 {
     name = text;
@@ -150,6 +161,8 @@ QString readValues(QCommandLineParser const& parser, QStringList const& pages, o
         faults << readConnection(parser.value("connect"), options);
     if (parser.isSet("size"))
         faults << readSize(parser.value("size"), options);
+    if (parser.isSet("usb"))
+        faults << readUsb(parser.value("usb"), options);
     if (parser.isSet("tour"))
         faults << readFileName("--tour", parser.value("tour"), options.tourDir);
     if (parser.isSet("units"))

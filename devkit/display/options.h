@@ -35,6 +35,7 @@ struct options_t
     QString page; //!< empty: the last one, or the first
     connection_t connection;
     QSize size = QSize(1024, 600);
+    QString usbDir;                                      //!< empty: the unit has no USB drives
     QString tourDir;                                     //!< empty: no tour
     std::optional<brel_common_qt::distanceUnit_t> units; //!< not given: as stored
     std::optional<brel_common_qt::latLonFormat_t> format;

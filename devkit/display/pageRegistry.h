@@ -34,6 +34,10 @@ struct pageEntry_t
     char const* title; //!< to be translated in the context "pages"
     subsystem_t subsystem;
     QWidget* (*create)(brel_common_qt::remoteMelvoxDevice_t* device);
+
+    /** Something to do rather than to see: the page of the name `on` is shown, and this is done on it. */
+    char const* on = nullptr;
+    void (*act)(QWidget* page) = nullptr;
 };
 
 typedef std::vector<pageEntry_t> pageRegistry_t;

@@ -159,6 +159,8 @@ bool screen_t::showPage(QString const& name)
     pageEntry_t const* entry = findPage(m_pages, name);
     if (!entry)
         return false;
+    if (entry->act)
+        return actOn(*entry);
     m_dialogs->rejectAll();
     if (m_dialogs->currentDialog())
         return false;
@@ -174,6 +176,14 @@ bool screen_t::showPage(QString const& name)
     m_settings->setLastPage(name);
     m_navigation->setCurrent(name);
     m_dialogs->setPage(m_views.value(name));
+    return true;
+}
+
+bool screen_t::actOn(pageEntry_t const& entry)
+{
+    if (!showPage(entry.on))
+        return false;
+    entry.act(page(entry.on));
     return true;
 }
 

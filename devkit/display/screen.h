@@ -65,6 +65,7 @@ private:
     QWidget* createTitleBar();
     void createStage();
     QWidget* createPage(pageEntry_t const& entry);
+    bool actOn(pageEntry_t const& entry);
     QString title() const;
 
     pageRegistry_t const& m_pages;

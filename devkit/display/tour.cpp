@@ -1,5 +1,6 @@
 #include "display/tour.h"
 
+#include "brel_common_qt/usbDriveManager.h"
 #include "display/dialogHost.h"
 #include "display/displayWindow.h"
 #include "display/keypad.h"
@@ -201,6 +202,9 @@ void tour_t::shootScrolled(QString const& name)
 void tour_t::visitPage(pageEntry_t const& entry)
 {
     QString const name = entry.name;
+    // Without drives a file dialog opens, a window of its own that is none of this screen's.
+    if (entry.act && !brel_common_qt::usbDriveManager_t::m_instance)
+        return;
     if (!m_screen.showPage(name))
     {
         fail("cannot show " + name);
@@ -210,7 +214,8 @@ void tour_t::visitPage(pageEntry_t const& entry)
     shootScrolled(name);
     m_screen.dialogs()->rejectAll();
     visitNewDialogs(name);
-    visitKeypads(entry);
+    if (!entry.act)
+        visitKeypads(entry);
 }
 
 void tour_t::visitNewDialogs(QString const& pageName)

@@ -22,6 +22,7 @@ void fileFetch_t::start(link_t* from, QString const& path, qint64 size)
     m_path = path;
     m_size = size;
     m_received = 0;
+    m_data.clear();
     m_error.clear();
     wantNext();
 }
@@ -44,6 +45,13 @@ link_t* fileFetch_t::source() const
 qint64 fileFetch_t::received() const
 {
     return m_received;
+}
+
+QByteArray fileFetch_t::takeData()
+{
+    QByteArray const data = m_data;
+    m_data.clear();
+    return data;
 }
 
 QString const& fileFetch_t::error() const
@@ -80,15 +88,16 @@ fileFetch_t::progress_t fileFetch_t::take(link_t* from, QVariant const& block)
     // A block that came twice.
     if (map.value("offset").toDouble() != double(m_received))
         return GOING_ON;
-    return takeData(map.value("data").toByteArray());
+    return takeNew(map.value("data").toByteArray());
 }
 
-fileFetch_t::progress_t fileFetch_t::takeData(QByteArray const& data)
+fileFetch_t::progress_t fileFetch_t::takeNew(QByteArray const& data)
 {
     qint64 const wanted = qMin(BLOCK, m_size - m_received);
     if (data.size() > wanted)
         return UNREADABLE;
     m_received += data.size();
+    m_data = data;
     if (data.size() < wanted)
         return fail("The file ended too early");
     if (m_received < m_size)

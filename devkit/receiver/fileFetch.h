@@ -34,12 +34,14 @@ public:
     progress_t advance(int milliseconds);
 
     qint64 received() const;
+    /** What came with the last block; nothing when it was no new one. */
+    QByteArray takeData();
     QString const& error() const;
 
 private:
     void wantNext();
     progress_t fail(QString const& error);
-    progress_t takeData(QByteArray const& data);
+    progress_t takeNew(QByteArray const& data);
 
     receiver_t& m_receiver;
     link_t* m_from;
@@ -47,6 +49,7 @@ private:
     qint64 m_size;
     qint64 m_received;
     int m_silent; //!< milliseconds since the last block
+    QByteArray m_data;
     QString m_error;
 };
 

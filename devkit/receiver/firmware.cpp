@@ -19,40 +19,46 @@ int const UPDATE_IN_PROGRESS = 1;
 int const UPDATE_COMPLETE = 2;
 
 double const LARGEST_FILE = 256.0 * 1024 * 1024; // bytes
+int const NUM_COMPONENTS = 17;
+int const PRODUCT = 8;
+int const ANY_PRODUCT = 0;
 
-/** By the numbers of the components. */
-char const* const NAMES[] = {"BOOT1",     "BOOT2",     "NAV",     "MTEST",   "PIOBOOT1", "PIOBOOT2",
-                             "PIOAPP",    "BLUETOOTH", "STM8",    "MFGPIOB", "MFGGNSS",  "OCEANTIDE",
-                             "GEOIDGRID", "GPB",       "GEOID99", "GGM02",   "ALL"};
+int const WRITING = 3000; // milliseconds for one component
+/** Of the whole, what drawing the files takes; the rest is writing. */
+double const FETCHING_SHARE = 0.7;
 
-int const NUM_COMPONENTS = int(sizeof NAMES / sizeof *NAMES);
+char const* const INCOMPLETE = "incomplete";
 
-struct installed_t
+QMap<int, QString> const DELIVERED = {{0, "2.0.4"},  {1, "2.1.0"}, {2, "1.14.40"}, {4, "1.0.3"}, {5, "1.0.5"},
+                                      {6, "1.8.12"}, {7, "4.2"},   {8, "0.9.1"},   {12, "1.0.0"}};
+
+QString nameOf(int component)
 {
-    char const* component;
-    char const* version;
-};
+    return melvox_firmware::componentName(component);
+}
 
-installed_t const INSTALLED[] = {{"BOOT1", "2.0.4"},    {"BOOT2", "2.1.0"},    {"NAV", "1.14.40"},
-                                 {"PIOBOOT1", "1.0.3"}, {"PIOBOOT2", "1.0.5"}, {"PIOAPP", "1.8.12"},
-                                 {"BLUETOOTH", "4.2"},  {"STM8", "0.9.1"},     {"GEOIDGRID", "1.0.0"}};
-
-/** A display that cannot read a file gives -1 for its size. */
 rule_t updateRule()
 {
-    rule_t const component = record({{"fileIndex", whole(0, 4294967295.0)},
+    rule_t const component = record({{"fileIndex", whole(0, 65535)},
                                      {"component", whole(0, NUM_COMPONENTS - 1)},
                                      {"path", text(4096)},
+                                     // A display that cannot read the file gives -1 for its size.
                                      {"size", optional(whole(-1, LARGEST_FILE), 0)}});
     return record({{"components", listOf(component)},
                    {"combinedPath", text(4096)},
                    {"combinedSize", optional(whole(-1, LARGEST_FILE), 0)}});
 }
 
+QVariantMap stateRecord(int state, QString const& description)
+{
+    return {{"state", state}, {"description", description}};
+}
+
 } // namespace
 
 firmware_t::firmware_t(receiver_t& owner)
-    : behaviour_t(owner), m_fetch(owner), m_from(nullptr), m_combined(false), m_current(0), m_done(0), m_total(0)
+    : behaviour_t(owner), m_fetch(owner), m_from(nullptr), m_running(false), m_combined(false), m_current(0),
+      m_checked(0), m_writing(-1), m_done(0), m_total(0), m_runningVersions(DELIVERED), m_storedVersions(DELIVERED)
 {
 }
 
@@ -60,10 +66,11 @@ behaviour_t::answer_t firmware_t::request(link_t* from, QString const& group)
 {
     if (group != "firmwareVersions")
         return NOT_MINE;
-    for (installed_t const& one : INSTALLED)
-    {
-        receiver.report(from, "firmwareVersion", QVariantMap{{"component", one.component}, {"version", one.version}});
-    }
+    for (auto it = m_runningVersions.begin(); it != m_runningVersions.end(); ++it)
+        receiver.report(from, "firmwareVersion", QVariantMap{{"component", nameOf(it.key())}, {"version", it.value()}});
+    if (!m_untold.isEmpty())
+        receiver.report(from, "firmwareUpdateState", m_untold);
+    m_untold.clear();
     return DONE;
 }
 
@@ -74,6 +81,17 @@ behaviour_t::answer_t firmware_t::command(link_t* from, QString const& group, QV
     return group == "fileBlock" ? go(m_fetch.take(from, value)) : NOT_MINE;
 }
 
+behaviour_t::answer_t firmware_t::situation(QString const& name, QVariant const& value)
+{
+    if (name != "failingFirmware")
+        return NOT_MINE;
+    QString const component = value.toString();
+    if (!component.isEmpty() && melvox_firmware::componentFromName(component.toStdString()) < 0)
+        return UNREADABLE;
+    m_failing = component;
+    return DONE;
+}
+
 /** Told to start while it is at it, the receiver goes on with what it does. */
 behaviour_t::answer_t firmware_t::start(link_t* from, QVariant const& value)
 {
@@ -82,55 +100,86 @@ behaviour_t::answer_t firmware_t::start(link_t* from, QVariant const& value)
     outcome_t const outcome = take(updateRule(), value, QVariant(), taken, why);
     if (outcome == MALFORMED)
         return UNREADABLE;
-    if (m_from)
+    if (m_running)
         return DONE;
     m_components.clear();
+    m_from = from;
     if (outcome == REFUSED)
     {
         fail("A component is unknown, or its file is too large");
         return DONE;
     }
-    QVariantMap const update = taken.toMap();
-    QString const combinedPath = update.value("combinedPath").toString();
-    m_combined = !combinedPath.isEmpty();
-    m_total = m_combined ? update.value("combinedSize").toLongLong() : 0;
-    m_done = 0;
-    for (QVariant const& entry : update.value("components").toList())
+    readUpdate(taken.toMap());
+    QString const refusal = whyNot(from);
+    if (!refusal.isEmpty())
     {
-        QVariantMap const map = entry.toMap();
-        m_components << component_t{map.value("component").toInt(),
-                                    m_combined ? combinedPath : map.value("path").toString(),
-                                    m_combined ? m_total : map.value("size").toLongLong(), NOT_STARTED};
-        if (!m_combined)
-            m_total += map.value("size").toLongLong();
+        fail(refusal);
+        return DONE;
     }
-    m_from = from;
-    m_current = 0;
-    receiver.report("firmwareUpdatePercent", 0.0);
+    m_running = true;
+    m_untold.clear();
+    reportPercent();
+    wantTicks(true);
     fetchNext();
     return DONE;
 }
 
+void firmware_t::readUpdate(QVariantMap const& update)
+{
+    QString const combinedPath = update.value("combinedPath").toString();
+    m_combined = !combinedPath.isEmpty();
+    m_total = m_combined ? update.value("combinedSize").toLongLong() : 0;
+    m_done = 0;
+    m_current = 0;
+    m_checked = 0;
+    m_writing = -1;
+    for (QVariant const& entry : update.value("components").toList())
+    {
+        QVariantMap const map = entry.toMap();
+        m_components << component_t{map.value("component").toInt(),
+                                    map.value("fileIndex").toUInt(),
+                                    m_combined ? combinedPath : map.value("path").toString(),
+                                    m_combined ? m_total : map.value("size").toLongLong(),
+                                    NOT_STARTED,
+                                    QString()};
+        if (!m_combined)
+            m_total += qMax(qint64(0), map.value("size").toLongLong());
+    }
+}
+
+/** Empty when the update can begin. */
+QString firmware_t::whyNot(link_t* from) const
+{
+    if (receiver.lockOf(from) == 0)
+        return "The port is not locked for the update";
+    if (m_components.isEmpty())
+        return "There is nothing to update";
+    for (component_t const& component : m_components)
+    {
+        if (component.size <= 0)
+            return QString(component.size == 0 ? "The file for %1 is empty" : "The file for %1 cannot be read")
+                .arg(nameOf(component.component));
+    }
+    return QString();
+}
+
+/** How many components come from the same file, from this one on. */
+int firmware_t::filesOf(int first) const
+{
+    return m_combined ? int(m_components.size()) - first : 1;
+}
+
 void firmware_t::fetchNext()
 {
-    if (m_components.isEmpty())
+    component_t& next = m_components[m_checked];
+    if (!m_from)
     {
-        fail("There is nothing to update");
+        fail("The display is gone");
         return;
     }
-    component_t& next = m_components[m_current];
-    if (next.size <= 0)
-    {
-        fail(QString(next.size == 0 ? "The file for %1 is empty" : "The file for %1 cannot be read")
-                 .arg(NAMES[next.component]));
-        return;
-    }
-    for (int i = m_current; i < (m_combined ? m_components.size() : m_current + 1); ++i)
-        m_components[i].status = IN_PROGRESS;
     reportState(UPDATE_IN_PROGRESS,
-                m_combined ? QString("Receiving the package") : QString("Receiving %1").arg(NAMES[next.component]));
-    reportProgress();
-    wantTicks(true);
+                m_combined ? QString("Receiving the package") : QString("Receiving %1").arg(nameOf(next.component)));
+    m_reader = melvox_firmware::packageReader_t();
     m_fetch.start(m_from, next.path, next.size);
 }
 
@@ -147,9 +196,13 @@ behaviour_t::answer_t firmware_t::go(fileFetch_t::progress_t progress)
         return DONE;
     case fileFetch_t::GOING_ON:
     case fileFetch_t::FINISHED:
-        receiver.report("firmwareUpdatePercent", double(m_done + m_fetch.received()) / double(m_total));
         break;
     }
+    QByteArray const data = m_fetch.takeData();
+    m_reader.feed(data.constData(), std::size_t(data.size()));
+    if (progress == fileFetch_t::FINISHED)
+        m_done += m_fetch.received();
+    reportPercent();
     if (progress == fileFetch_t::FINISHED)
         finishFile();
     return DONE;
@@ -157,38 +210,106 @@ behaviour_t::answer_t firmware_t::go(fileFetch_t::progress_t progress)
 
 void firmware_t::finishFile()
 {
-    m_done += m_fetch.received();
-    for (int i = m_current; i < (m_combined ? m_components.size() : m_current + 1); ++i)
-        m_components[i].status = SUCCESS;
-    m_current = m_combined ? int(m_components.size()) : m_current + 1;
-    if (m_current < m_components.size())
+    int const count = filesOf(m_checked);
+    QString const damage = checkFile(m_checked, count);
+    if (!damage.isEmpty())
     {
-        fetchNext();
+        fail(damage);
         return;
     }
-    m_from = nullptr;
-    wantTicks(false);
+    m_checked += count;
+    if (m_checked < m_components.size())
+        fetchNext();
+    else
+        writeNext();
+}
+
+/** Empty when the file that was drawn holds what it was said to hold. */
+QString firmware_t::checkFile(int first, int count)
+{
+    if (!m_reader.finish())
+        return QString("The file is damaged: %1").arg(QString::fromStdString(m_reader.error()));
+    for (int i = first; i < first + count; ++i)
+    {
+        component_t& component = m_components[i];
+        QString const name = nameOf(component.component);
+        if (component.fileIndex >= m_reader.parts().size() ||
+            m_reader.parts()[component.fileIndex].component != component.component)
+            return QString("The file does not hold %1").arg(name);
+        melvox_firmware::part_t const& part = m_reader.parts()[component.fileIndex];
+        if (part.product != PRODUCT && part.product != ANY_PRODUCT)
+            return QString("%1 is made for product %2, not for this one").arg(name).arg(part.product);
+        component.version = QString::fromStdString(part.version);
+    }
+    return QString();
+}
+
+void firmware_t::writeNext()
+{
+    component_t& next = m_components[m_current];
+    next.status = IN_PROGRESS;
+    m_writing = WRITING;
+    m_storedVersions[next.component] = INCOMPLETE;
+    reportState(UPDATE_IN_PROGRESS, QString("Writing %1").arg(nameOf(next.component)));
     reportProgress();
-    reportState(UPDATE_COMPLETE, "Firmware update complete");
+}
+
+void firmware_t::finishWriting()
+{
+    component_t& written = m_components[m_current];
+    bool const good = nameOf(written.component).compare(m_failing, Qt::CaseInsensitive) != 0;
+    written.status = good ? SUCCESS : FAILURE;
+    if (good)
+        m_storedVersions[written.component] = written.version;
+    ++m_current;
+    m_writing = -1;
+    reportProgress();
+    if (m_current < m_components.size())
+        writeNext();
+    else
+        finish();
+}
+
+void firmware_t::finish()
+{
+    QStringList failed;
+    for (component_t const& component : m_components)
+    {
+        if (component.status != SUCCESS)
+            failed << nameOf(component.component);
+    }
+    if (failed.isEmpty())
+        end(UPDATE_COMPLETE, "Firmware update complete");
+    else
+        end(UPDATE_ERROR, QString("Could not be written: %1").arg(failed.join(", ")));
 }
 
 void firmware_t::fail(QString const& error)
 {
-    m_fetch.stop();
-    m_from = nullptr;
-    wantTicks(false);
     for (component_t& component : m_components)
     {
         if (component.status != SUCCESS)
             component.status = FAILURE;
     }
     reportProgress();
-    reportState(UPDATE_ERROR, error);
+    end(UPDATE_ERROR, error);
+}
+
+void firmware_t::end(int state, QString const& description)
+{
+    m_fetch.stop();
+    wantTicks(false);
+    m_running = false;
+    m_writing = -1;
+    reportState(state, description);
+    if (!m_from)
+        m_untold = stateRecord(state, description);
+    m_from = nullptr;
 }
 
 void firmware_t::reportState(int state, QString const& description)
 {
-    receiver.report("firmwareUpdateState", QVariantMap{{"state", state}, {"description", description}});
+    receiver.report("firmwareUpdateState", stateRecord(state, description));
 }
 
 void firmware_t::reportProgress()
@@ -199,22 +320,51 @@ void firmware_t::reportProgress()
     receiver.report("firmwareUpdateProgress", list);
 }
 
+void firmware_t::reportPercent()
+{
+    double const fetched = m_total > 0 ? double(m_done + (m_fetch.isRunning() ? m_fetch.received() : 0)) / m_total : 0;
+    double const writing = m_writing >= 0 ? 1 - double(m_writing) / WRITING : 0;
+    double const written = (m_current + writing) / qMax(1, int(m_components.size()));
+    receiver.report("firmwareUpdatePercent", fetched * FETCHING_SHARE + written * (1 - FETCHING_SHARE));
+}
+
 void firmware_t::linkClosed(link_t* link)
 {
-    if (m_from && m_from == link)
+    if (!m_running || m_from != link)
+        return;
+    m_from = nullptr;
+    // What has been drawn and checked needs no display any more.
+    if (m_writing < 0)
         fail("The display is gone");
 }
 
 void firmware_t::restarted()
 {
-    if (m_from)
-        fail("The receiver was restarted");
+    if (m_running)
+    {
+        bool const writing = m_writing >= 0;
+        QString const name = writing ? nameOf(m_components.at(m_current).component) : QString();
+        fail(writing ? QString("The power was lost while %1 was written; update it again").arg(name)
+                     : QString("The power was lost during the update"));
+    }
+    m_runningVersions = m_storedVersions;
+    for (auto it = m_runningVersions.begin(); it != m_runningVersions.end(); ++it)
+        receiver.report("firmwareVersion", QVariantMap{{"component", nameOf(it.key())}, {"version", it.value()}});
 }
 
 void firmware_t::advance(int milliseconds)
 {
     if (m_fetch.advance(milliseconds) == fileFetch_t::FAILED)
+    {
         fail(m_fetch.error());
+        return;
+    }
+    if (m_writing < 0)
+        return;
+    m_writing = qMax(0, m_writing - milliseconds);
+    reportPercent();
+    if (m_writing == 0)
+        finishWriting();
 }
 
 } // namespace melvox_receiver

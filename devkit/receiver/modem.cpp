@@ -61,4 +61,60 @@ void modem_t::advance(int milliseconds)
     receiver.report("lteModemStat", status());
 }
 
+namespace
+{
+
+struct iridiumState_t
+{
+    char const* modemStatus;
+    char const* provisioningStatus; //!< null: as it is
+    int duration;                   //!< milliseconds; 0: for good
+};
+
+iridiumState_t const IRIDIUM_STATES[] = {
+    {"STARTING", "UNKNOWN", 3000}, {"SEARCHING", "PENDING", 8000}, {"ON", nullptr, 0}};
+
+} // namespace
+
+iridium_t::iridium_t(receiver_t& owner) : behaviour_t(owner), m_provisioned(true), m_state(2), m_left(0)
+{
+}
+
+behaviour_t::answer_t iridium_t::situation(QString const& name, QVariant const& value)
+{
+    if (name != "iridiumProvisioned")
+        return NOT_MINE;
+    if (value.userType() != QMetaType::Bool)
+        return UNREADABLE;
+    m_provisioned = value.toBool();
+    enter(m_state);
+    return DONE;
+}
+
+void iridium_t::enter(int state)
+{
+    iridiumState_t const& entered = IRIDIUM_STATES[state];
+    m_state = state;
+    m_left = entered.duration;
+    QVariantMap status = receiver.setting("irdmStat").toMap();
+    status["modemStatus"] = entered.modemStatus;
+    status["provisioningStatus"] = entered.provisioningStatus ? entered.provisioningStatus
+                                   : m_provisioned            ? "PROVISIONED"
+                                                              : "NOT PROVISIONED";
+    receiver.change("irdmStat", status);
+    wantTicks(m_left > 0);
+}
+
+void iridium_t::restarted()
+{
+    enter(0);
+}
+
+void iridium_t::advance(int milliseconds)
+{
+    m_left -= milliseconds;
+    if (m_left <= 0)
+        enter(m_state + 1);
+}
+
 } // namespace melvox_receiver

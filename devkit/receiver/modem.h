@@ -23,6 +23,26 @@ private:
     int m_pending; //!< milliseconds until it is there
 };
 
+/** The Iridium modem: after a restart it starts up, looks for the network and tells what it found.
+ *
+ *  Situation: "iridiumProvisioned" tells whether the network knows it. */
+class iridium_t : public behaviour_t
+{
+public:
+    explicit iridium_t(receiver_t& receiver);
+
+    answer_t situation(QString const& name, QVariant const& value) override;
+    void restarted() override;
+    void advance(int milliseconds) override;
+
+private:
+    void enter(int state);
+
+    bool m_provisioned;
+    int m_state;
+    int m_left; //!< milliseconds
+};
+
 } // namespace melvox_receiver
 
 #endif

@@ -3,7 +3,7 @@
 namespace melvox_receiver
 {
 
-portLock_t::portLock_t(receiver_t& owner) : behaviour_t(owner), m_holder(nullptr), m_state(0)
+portLock_t::portLock_t(receiver_t& owner) : behaviour_t(owner), m_holder(nullptr)
 {
 }
 
@@ -17,34 +17,32 @@ behaviour_t::answer_t portLock_t::command(link_t* from, QString const& group, QV
     if (take(whole(0, 2), value, QVariant(), wanted, why) != TAKEN)
         return UNREADABLE;
     if (!m_holder && wanted.toInt() != 0)
-    {
-        m_holder = from;
-        m_state = wanted.toInt();
-    }
+        hold(from, wanted.toInt());
     else if (m_holder == from && wanted.toInt() == 0)
-    {
-        m_holder = nullptr;
-        m_state = 0;
-    }
+        hold(nullptr, 0);
     // Another display's lock is none to the one that asks.
-    receiver.report(from, group, m_holder == from ? m_state : 0);
+    receiver.report(from, group, receiver.lockOf(from));
     return DONE;
+}
+
+void portLock_t::hold(link_t* holder, int state)
+{
+    m_holder = holder;
+    receiver.setLock(holder, state);
 }
 
 void portLock_t::linkClosed(link_t* link)
 {
     if (m_holder == link)
-        m_holder = nullptr;
-    if (!m_holder)
-        m_state = 0;
+        hold(nullptr, 0);
 }
 
 void portLock_t::restarted()
 {
-    if (m_holder)
-        receiver.report(m_holder, "portLock", 0);
-    m_holder = nullptr;
-    m_state = 0;
+    link_t* const holder = m_holder;
+    hold(nullptr, 0);
+    if (holder)
+        receiver.report(holder, "portLock", 0);
 }
 
 } // namespace melvox_receiver

@@ -17,8 +17,9 @@ public:
     void restarted() override;
 
 private:
+    void hold(link_t* holder, int state);
+
     link_t* m_holder;
-    int m_state; //!< what the holder asked for: 1 for the framework, 2 for a plug-in; 0 without a holder
 };
 
 } // namespace melvox_receiver

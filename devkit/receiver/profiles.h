@@ -9,7 +9,10 @@
 namespace melvox_receiver
 {
 
-/** Settings that the receiver keeps under names, gives out as a file's bytes and takes in as such. */
+/** Settings that the receiver keeps under names, gives out as a file's bytes and takes in as such.
+ *
+ *  Situation: "profileFolder" is the folder in which the profiles outlive the program, one file for each; what lies in it
+ *  is there at once. Empty: they are forgotten in the end. */
 class profiles_t : public behaviour_t
 {
 public:
@@ -17,7 +20,9 @@ public:
 
     answer_t request(link_t* from, QString const& group) override;
     answer_t command(link_t* from, QString const& group, QVariant const& value) override;
+    answer_t situation(QString const& name, QVariant const& value) override;
     void linkClosed(link_t* link) override;
+    void lockChanged() override;
     void restarted() override;
 
 private:
@@ -35,9 +40,14 @@ private:
     void activate(QString const& name);
     void dump(link_t* to, QString const& path);
     int load(link_t* from, QByteArray const& data);
+    QString fileOf(QString const& name) const;
+    void readFolder();
+    void write(QString const& name) const;
+    void writeActive() const;
 
     QMap<QString, profile_t> m_profiles;
     QString m_active;                      //!< empty: none
+    QString m_folder;                      //!< empty: none
     QHash<link_t*, QByteArray> m_incoming; //!< a profile that has come in so far
 };
 

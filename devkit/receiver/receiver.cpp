@@ -30,7 +30,7 @@ int findRecord(setting_t const& setting, QVariantList const& records, QVariant c
 } // namespace
 
 receiver_t::receiver_t(simClock_t* clock, QObject* parent)
-    : QObject(parent), m_clock(clock), m_settings(startSettings()), m_ignoredCount(0)
+    : QObject(parent), m_clock(clock), m_settings(startSettings()), m_lockHolder(nullptr), m_lock(0), m_ignoredCount(0)
 {
     connect(clock, &simClock_t::ticked, this, &receiver_t::advance);
     m_behaviours = makeBehaviours(*this);
@@ -137,8 +137,41 @@ void receiver_t::ignore(QString const& why, message_t const& message)
     emit ignored(why, text);
 }
 
+void receiver_t::takeIn(unsigned int port, QByteArray const& bytes)
+{
+    for (auto const& behaviour : m_behaviours)
+        behaviour->portInput(port, bytes);
+}
+
+void receiver_t::putOut(unsigned int port, QByteArray const& bytes)
+{
+    emit portOutput(port, bytes);
+}
+
+QVariant receiver_t::ask(QString const& name, qint64 at)
+{
+    for (auto const& behaviour : m_behaviours)
+    {
+        QVariant const answer = behaviour->answer(name, at);
+        if (answer.isValid())
+            return answer;
+    }
+    return QVariant();
+}
+
+void receiver_t::send(link_t* to, message_t const& message)
+{
+    if (!to)
+        return; // the receiver's own command
+    for (auto const& behaviour : m_behaviours)
+        behaviour->passed(to, message);
+    to->send(message);
+}
+
 void receiver_t::take(link_t* from, message_t const& message)
 {
+    for (auto const& behaviour : m_behaviours)
+        behaviour->passed(from, message);
     if (message.kind == message_t::REQUEST)
         takeRequest(from, message);
     else if (message.kind == message_t::COMMAND)
@@ -309,8 +342,7 @@ void receiver_t::report(QString const& group, QVariant const& value)
 
 void receiver_t::report(link_t* to, QString const& group, QVariant const& value)
 {
-    if (to)
-        to->send(message_t(message_t::REPORT, group, value));
+    send(to, message_t(message_t::REPORT, group, value));
 }
 
 void receiver_t::event(QString const& group, QVariant const& value)
@@ -321,7 +353,24 @@ void receiver_t::event(QString const& group, QVariant const& value)
 
 void receiver_t::event(link_t* to, QString const& group, QVariant const& value)
 {
-    to->send(message_t(message_t::EVENT, group, value));
+    send(to, message_t(message_t::EVENT, group, value));
+}
+
+void receiver_t::setLock(link_t* holder, int state)
+{
+    link_t* const before = m_lockHolder;
+    m_lockHolder = holder;
+    m_lock = holder ? state : 0;
+    if (before != holder)
+    {
+        for (auto const& behaviour : m_behaviours)
+            behaviour->lockChanged();
+    }
+}
+
+int receiver_t::lockOf(link_t* link) const
+{
+    return link && link == m_lockHolder ? m_lock : 0;
 }
 
 void receiver_t::wantTicks(behaviour_t* who, bool wanted)

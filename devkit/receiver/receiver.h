@@ -60,6 +60,9 @@ public:
     /** How many messages made no sense. */
     int ignoredCount() const;
 
+    /** What whoever listens at a port sends; it counts as the port's traffic and has no other effect. */
+    void takeIn(unsigned int port, QByteArray const& bytes);
+
     // For behaviours.
 
     /** Stores a value that needs no rule and reports it to all displays if it is another one. */
@@ -77,6 +80,14 @@ public:
     void event(QString const& group, QVariant const& value = QVariant());
     void event(link_t* to, QString const& group, QVariant const& value = QVariant());
     void wantTicks(behaviour_t* who, bool wanted);
+    void putOut(unsigned int port, QByteArray const& bytes);
+
+    /** What one of the behaviours knows; see behaviour_t::answer(). Invalid: none does. */
+    QVariant ask(QString const& name, qint64 at);
+
+    /** Who has the receiver for himself, and how: 0 for nobody, 1 for the framework, 2 for a plug-in. */
+    void setLock(link_t* holder, int state);
+    int lockOf(link_t* link) const; //!< 0 for everybody but the holder
 
     /** All behaviours start anew, as after a loss of power. */
     void restart();
@@ -84,6 +95,9 @@ public:
 signals:
     /** A message that made no sense: why, and the message as text, cut to a length that one can read. */
     void ignored(QString const& why, QString const& text);
+
+    /** The receiver puts bytes out on one of its ports: whole sentences or frames, in their order. */
+    void portOutput(unsigned int port, QByteArray const& bytes);
 
 private:
     struct display_t
@@ -93,6 +107,7 @@ private:
     };
 
     void take(link_t* from, message_t const& message);
+    void send(link_t* to, message_t const& message);
     void takeRequest(link_t* from, message_t const& message);
     void takeCommand(link_t* from, message_t const& message);
     outcome_t takeSetting(setting_t const& setting, QVariant const& value, QVariant& taken, bool& changed,
@@ -106,6 +121,8 @@ private:
     simClock_t* m_clock;
     settings_t m_settings;
     QList<display_t> m_displays;
+    link_t* m_lockHolder;
+    int m_lock;
     int m_ignoredCount;
     QSet<behaviour_t*> m_ticking;
     std::vector<std::unique_ptr<behaviour_t>> m_behaviours;

@@ -12,6 +12,23 @@ int const UPLOAD_COMPLETE = 2;
 
 double const LARGEST_PACKAGE = 256.0 * 1024 * 1024; // bytes
 
+/** Of the whole, what drawing the package takes. */
+double const FETCHING_SHARE = 0.6;
+
+/** What follows when the package is there. */
+struct phase_t
+{
+    char const* description;
+    int duration;  //!< milliseconds
+    bool restarts; //!< the receiver, at its beginning
+    double done;   //!< of the whole, at its end
+};
+
+phase_t const PHASES[] = {{"Restarting the receiver (1 of 2)", 4000, true, 0.7},
+                          {"Installing the package", 6000, false, 0.9},
+                          {"Restarting the receiver (2 of 2)", 4000, true, 1.0}};
+int const NUM_PHASES = int(sizeof PHASES / sizeof *PHASES);
+
 QVariantMap stateRecord(int state, QString const& description)
 {
     return {{"state", state}, {"description", description}};
@@ -19,7 +36,8 @@ QVariantMap stateRecord(int state, QString const& description)
 
 } // namespace
 
-web_t::web_t(receiver_t& owner) : behaviour_t(owner), m_fetch(owner), m_size(0)
+web_t::web_t(receiver_t& owner)
+    : behaviour_t(owner), m_fetch(owner), m_size(0), m_phase(-1), m_left(0), m_restarting(false)
 {
 }
 
@@ -44,7 +62,7 @@ behaviour_t::answer_t web_t::start(link_t* from, QVariant const& value)
     outcome_t const outcome = take(rule, value, QVariant(), taken, why);
     if (outcome == MALFORMED)
         return UNREADABLE;
-    if (m_fetch.isRunning())
+    if (m_fetch.isRunning() || m_phase >= 0)
     {
         receiver.report(from, "webUiUploadState", stateRecord(UPLOAD_IN_PROGRESS, "Another upload is in progress"));
         return DONE;
@@ -66,7 +84,7 @@ behaviour_t::answer_t web_t::start(link_t* from, QVariant const& value)
 
 void web_t::cancel()
 {
-    if (!m_fetch.isRunning())
+    if (!m_fetch.isRunning() && m_phase < 0)
         return;
     m_fetch.stop();
     end(UPLOAD_ERROR, "The upload was cancelled");
@@ -75,6 +93,7 @@ void web_t::cancel()
 void web_t::end(int state, QString const& description)
 {
     wantTicks(false);
+    m_phase = -1;
     receiver.report("webUiUploadState", stateRecord(state, description));
 }
 
@@ -88,13 +107,13 @@ behaviour_t::answer_t web_t::go(fileFetch_t::progress_t progress)
         return UNREADABLE;
     case fileFetch_t::GOING_ON:
     case fileFetch_t::FINISHED:
-        receiver.report("webUiUploadPercent", double(m_fetch.received()) / double(m_size));
+        receiver.report("webUiUploadPercent", FETCHING_SHARE * double(m_fetch.received()) / double(m_size));
         break;
     case fileFetch_t::FAILED:
         break;
     }
     if (progress == fileFetch_t::FINISHED)
-        end(UPLOAD_COMPLETE, "Upload complete");
+        enter(0);
     else if (progress == fileFetch_t::FAILED)
         end(UPLOAD_ERROR, m_fetch.error());
     return DONE;
@@ -108,13 +127,36 @@ void web_t::linkClosed(link_t* link)
 
 void web_t::restarted()
 {
-    cancel();
+    if (!m_restarting)
+        cancel();
+}
+
+void web_t::enter(int phase)
+{
+    m_phase = phase;
+    m_left = PHASES[phase].duration;
+    receiver.report("webUiUploadState", stateRecord(UPLOAD_IN_PROGRESS, PHASES[phase].description));
+    if (!PHASES[phase].restarts)
+        return;
+    m_restarting = true;
+    receiver.restart();
+    m_restarting = false;
 }
 
 void web_t::advance(int milliseconds)
 {
     if (m_fetch.advance(milliseconds) == fileFetch_t::FAILED)
         end(UPLOAD_ERROR, m_fetch.error());
+    if (m_phase < 0)
+        return;
+    m_left -= milliseconds;
+    if (m_left > 0)
+        return;
+    receiver.report("webUiUploadPercent", PHASES[m_phase].done);
+    if (m_phase + 1 < NUM_PHASES)
+        enter(m_phase + 1);
+    else
+        end(UPLOAD_COMPLETE, "Upload complete");
 }
 
 } // namespace melvox_receiver

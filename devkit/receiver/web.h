@@ -7,7 +7,7 @@
 namespace melvox_receiver
 {
 
-/** Takes a new package for the web interface in. */
+/** Takes a new package for the web interface in: draws it, restarts, installs it and restarts again. */
 class web_t : public behaviour_t
 {
 public:
@@ -23,9 +23,13 @@ private:
     void cancel();
     answer_t go(fileFetch_t::progress_t progress);
     void end(int state, QString const& description);
+    void enter(int phase);
 
     fileFetch_t m_fetch;
     qint64 m_size;
+    int m_phase;       //!< index of what goes on after the package was drawn; negative: nothing
+    int m_left;        //!< milliseconds of it
+    bool m_restarting; //!< a restart that is part of the upload
 };
 
 } // namespace melvox_receiver

@@ -3,8 +3,8 @@
 #include "brel_common_qt/remoteMelvoxDevice.h"
 #include "brel_common_qt_gui/guiSettings.h"
 #include "support/degrees.h"
+#include "support/dialogButtons.h"
 #include "support/pageSupport.h"
-#include "support/touchButtons.h"
 
 using namespace brel_common_qt;
 

@@ -1,9 +1,9 @@
 #include "melvoxUiCorrectionSatSelectDialog_p.h"
 
 #include "brel_common_qt/remoteMelvoxDevice.h"
+#include "support/dialogButtons.h"
 #include "support/pageSupport.h"
 #include "support/qtCompat.h"
-#include "support/touchButtons.h"
 #include "support/treeRows.h"
 
 #include <QPushButton>

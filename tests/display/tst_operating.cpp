@@ -1,4 +1,5 @@
 #include "brel_common_qt/remoteMelvoxDevice.h"
+#include "brel_common_qt/usbDriveManager.h"
 #include "display/dialogHost.h"
 #include "display/displayStyle.h"
 #include "display/displayWindow.h"
@@ -150,6 +151,7 @@ private slots:
 
     void tourPicturesEveryPage()
     {
+        brel_common_qt::usbDriveManager_t const drives;
         fixture_t f(QSize(800, 480));
         QDir const pictures(f.folder.filePath("pictures"));
         QCOMPARE(walkTour(f.window, f.unit, pictures.path()), 0);

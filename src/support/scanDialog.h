@@ -1,0 +1,48 @@
+#ifndef MELVOX_UI_SCAN_DIALOG_H
+#define MELVOX_UI_SCAN_DIALOG_H
+
+#include <QTreeWidget>
+
+class QDialog;
+class QDialogButtonBox;
+class QPushButton;
+
+namespace brel_common_qt
+{
+class fileScanner_t;
+}
+
+/** What the dialogs that list files of a drive do alike. */
+namespace brel_common_qt_gui
+{
+
+/** The parts of such a dialog that are wired together. */
+struct scanDialog_t
+{
+    QDialog* dialog; //!< has the slots checkSelection(), checkScanState() and handleFilesReceived()
+    brel_common_qt::fileScanner_t* scanner;
+    QTreeWidget* tree;
+    QDialogButtonBox* buttonBox;
+    QPushButton* stopButton;
+    QPushButton* selectButton;
+};
+
+/** Cancelling the dialog also stops its scan. */
+void connectScanDialog(scanDialog_t const& parts, char const* selectSlot);
+
+/** A scan can be stopped while it runs. */
+void showScanState(scanDialog_t const& parts);
+
+/** Nothing can be chosen while the scan runs. */
+void showSelection(scanDialog_t const& parts);
+
+/** The first selected item, all of whose kind are item_t; null when there is none. */
+template <typename item_t> item_t* selectedItem(QTreeWidget const* tree)
+{
+    QList<QTreeWidgetItem*> const selected = tree->selectedItems();
+    return selected.isEmpty() ? 0 : static_cast<item_t*>(selected.first());
+}
+
+} // namespace brel_common_qt_gui
+
+#endif
