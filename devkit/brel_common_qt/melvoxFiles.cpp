@@ -2,14 +2,49 @@
 
 #include <QFileInfo>
 
+#include <cerrno>
+#include <cstdio>
+#include <cstring>
+
+#ifdef Q_OS_UNIX
+#include <unistd.h>
+#endif
+
 namespace melvox_kit
 {
 
 namespace
 {
 
-// A receiver that asks for more at once gets this much; it asks again.
-qint64 const LARGEST_BLOCK = 64 * 1024;
+qint64 const LARGEST_BLOCK = 64 * 1024; // bytes
+
+QString lastError()
+{
+    return QString::fromLocal8Bit(std::strerror(errno));
+}
+
+/** Operators pull a drive out as soon as they are told that a file is written. */
+bool writeThrough(QFile& file)
+{
+    if (!file.flush())
+        return false;
+#ifdef Q_OS_UNIX
+    return ::fsync(file.handle()) == 0;
+#else
+    return true;
+#endif
+}
+
+/** Not QFile::rename(): that refuses to replace a file, and between removing the old one and renaming there is none. */
+bool replace(QString const& from, QString const& to)
+{
+    QByteArray const fromName = QFile::encodeName(from);
+    QByteArray const toName = QFile::encodeName(to);
+#ifdef Q_OS_WIN
+    std::remove(toName.constData());
+#endif
+    return std::rename(fromName.constData(), toName.constData()) == 0;
+}
 
 } // namespace
 
@@ -18,80 +53,95 @@ QString pathFromText(std::string const& path)
     return QFile::decodeName(QByteArray(path.data(), int(path.size())));
 }
 
-std::string textFromPath(QString const& path)
+qint64 sentFiles_t::offer(QString const& name, QString const& path)
 {
-    QByteArray const name = QFile::encodeName(path);
-    return std::string(name.constData(), std::size_t(name.size()));
-}
-
-qint64 sentFiles_t::offer(QString const& path)
-{
-    m_offered.insert(path);
+    m_paths.insert(name, path);
     QFileInfo const info(path);
     return info.isFile() && info.isReadable() ? info.size() : -1;
 }
 
-void sentFiles_t::withdrawAll()
+bool sentFiles_t::isOffered(QString const& name) const
 {
-    m_offered.clear();
-    m_open.close();
+    return m_paths.contains(name);
 }
 
-bool sentFiles_t::read(QString const& path, qint64 offset, qint64 size, QByteArray& block, QString& reason)
+void sentFiles_t::withdrawAll()
 {
-    if (!m_offered.contains(path))
+    m_paths.clear();
+    release();
+}
+
+bool sentFiles_t::open(QString const& path, QString& reason)
+{
+    if (m_open.isOpen() && m_open.fileName() == path)
+        return true;
+    m_open.close();
+    // Opening a pipe would wait for somebody to write into it.
+    QFileInfo const info(path);
+    if (info.exists() && !info.isFile())
     {
-        reason = "This file was not offered.";
+        reason = tr("This is not a file.");
         return false;
     }
-    if (!m_open.isOpen() || m_open.fileName() != path)
+    m_open.setFileName(path);
+    if (m_open.open(QIODevice::ReadOnly))
+        return true;
+    reason = m_open.errorString();
+    return false;
+}
+
+bool sentFiles_t::read(QString const& name, qint64 offset, qint64 size, QByteArray& block, QString& reason)
+{
+    if (!isOffered(name))
     {
-        m_open.close();
-        m_open.setFileName(path);
-        if (!m_open.open(QIODevice::ReadOnly))
-        {
-            reason = m_open.errorString();
-            return false;
-        }
+        reason = tr("This file was not offered.");
+        return false;
     }
-    if (!m_open.seek(offset))
+    if (size > LARGEST_BLOCK)
+    {
+        reason = tr("At most %1 bytes can be sent at once.").arg(LARGEST_BLOCK);
+        return false;
+    }
+    if (!open(m_paths.value(name), reason))
+        return false;
+    bool const good = m_open.seek(offset);
+    QByteArray const found = good ? m_open.read(size) : QByteArray();
+    if (!good || m_open.error() != QFile::NoError)
     {
         reason = m_open.errorString();
-        return false;
-    }
-    qint64 const wanted = qMin(size, LARGEST_BLOCK);
-    block = m_open.read(wanted);
-    if (m_open.error() != QFile::NoError)
-    {
-        reason = m_open.errorString();
         m_open.close();
         return false;
     }
-    if (block.size() < wanted)
+    block = found;
+    if (m_open.atEnd())
         m_open.close();
     return true;
+}
+
+void sentFiles_t::release()
+{
+    m_open.close();
 }
 
 bool writeWhole(QString const& path, QByteArray const& bytes, QString& reason)
 {
     QFile part(path + ".part");
-    bool good = part.open(QIODevice::WriteOnly) && part.write(bytes) == bytes.size() && part.flush();
-    if (good)
-    {
-        part.close();
-        good = part.error() == QFile::NoError;
-    }
-    if (good)
-    {
-        // There is no rename in Qt that replaces; what stood there before is kept until the new file is whole.
-        QFile::remove(path);
-        good = part.rename(path);
-    }
-    if (!good)
+    if (!part.open(QIODevice::WriteOnly))
     {
         reason = part.errorString();
-        part.remove();
+        return false;
     }
+    bool good = part.write(bytes) == bytes.size() && writeThrough(part);
+    if (!good)
+        reason = part.error() == QFile::NoError ? lastError() : part.errorString();
+    part.close();
+    if (good && !replace(part.fileName(), path))
+    {
+        good = false;
+        reason = lastError();
+    }
+    if (!good)
+        part.remove();
     return good;
 }
 

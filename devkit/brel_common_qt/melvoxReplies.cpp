@@ -1,5 +1,4 @@
 #include "remoteMelvoxDevice_p.h"
-#include "values.h"
 
 #include <QHash>
 
@@ -11,53 +10,25 @@ namespace brel_common_qt
 namespace
 {
 
-template <typename value_t> bool fill(cached_t<value_t>& cached, QVariant const& value)
+bool isPort(melvoxPort_t port)
 {
-    if (!read(value, cached.value))
-        return false;
-    cached.valid = true;
-    return true;
+    return port >= MELVOX_PORT_FIRST && port < MELVOX_NUM_PORTS;
 }
 
-template <typename value_t> bool fillField(cached_t<value_t>& cached, char const* name, QVariant const& value)
+bool isCorrectionType(melvoxCorrectionType_t type)
 {
-    if (!readField(value, name, cached.value))
-        return false;
-    cached.valid = true;
-    return true;
+    return type >= MELVOX_CORR_TYPE_RTCM19 && type <= MELVOX_CORR_TYPE_RTG;
 }
 
-bool readPort(QVariant const& value, melvoxPort_t& port)
+bool isEthernetSource(melvoxEthernetConfigSource_t source)
 {
-    melvoxPort_t number = MELVOX_PORT_UNKNOWN;
-    if (!readField(value, "port", number) || number < MELVOX_PORT_FIRST || number >= MELVOX_NUM_PORTS)
-        return false;
-    port = number;
-    return true;
+    return source >= MELVOX_ETH_CFG_SOURCE_CABLE && source < MELVOX_NUM_ETH_CFG_SOURCES;
 }
 
-/** Both antennas' records. */
-template <typename record_t> bool fillPair(record_t* pair, bool& valid, QVariant const& value)
+/** A record, and the port that it is about. */
+template <typename record_t> bool readAtPort(QVariant const& value, melvoxPort_t& port, record_t& record)
 {
-    QList<record_t> records;
-    if (!read(value, records) || records.size() != MELVOX_NUM_ANTENNAS)
-        return false;
-    for (int i = 0; i < MELVOX_NUM_ANTENNAS; ++i)
-        pair[i] = records.at(i);
-    valid = true;
-    return true;
-}
-
-/** A list of records as a map by their ids. */
-template <typename record_t> bool fillById(std::map<unsigned short, record_t>& map, QVariant const& value)
-{
-    QList<record_t> records;
-    if (!read(value, records))
-        return false;
-    map.clear();
-    for (int i = 0; i < records.size(); ++i)
-        map[static_cast<unsigned short>(records.at(i).id)] = records.at(i);
-    return true;
+    return readFields(value, "port", port) && isPort(port) && read(value, record);
 }
 
 /** Which activity light a group lights. */
@@ -75,85 +46,122 @@ int streamOf(QString const& group)
 } // namespace
 
 /** What to do with each group that a receiver tells of. Signals are for the proxy alone to emit, so the table belongs
- *  to its private record. */
+ *  to its private record.
+ *
+ *  What a signal carries is never the cache itself: a slot that shows a dialog and waits lets the next message in,
+ *  and the slots after it must still find what they were called with. */
 struct remoteMelvoxDevice_t::privateData_t::replyTable_t
 {
+    typedef remoteMelvoxDevice_t device_t;
     typedef privateData_t cache_t;
-    typedef bool (*reply_t)(cache_t& cache, QVariant const& value);
+    typedef std::function<bool(cache_t& cache, QVariant const& value)> reply_t;
     typedef QHash<QString, reply_t> replies_t;
 
-    static void solution(replies_t& replies)
+    /** A group that is kept as it comes and told of with its value. */
+    template <typename value_t, typename argument_t>
+    static reply_t kept(cached_t<value_t> cache_t::*cached, void (device_t::*told)(argument_t))
     {
-        replies["elevationMask"] = [](cache_t& c, QVariant const& v)
+        return [cached, told](cache_t& c, QVariant const& v)
         {
-            if (!fill(c.elevationMask, v))
+            value_t value = value_t();
+            if (!read(v, value))
                 return false;
-            emit c.device->elevationMaskUpdated(c.elevationMask.value);
-            return true;
-        };
-        replies["pdopLimit"] = [](cache_t& c, QVariant const& v)
-        {
-            if (!fill(c.pdopLimit, v))
-                return false;
-            emit c.device->pdopLimitUpdated(c.pdopLimit.value);
-            return true;
-        };
-        replies["geoidalModel"] = [](cache_t& c, QVariant const& v)
-        {
-            if (!fill(c.geoidalModel, v))
-                return false;
-            emit c.device->geoidalModelUpdated(c.geoidalModel.value);
-            return true;
-        };
-        replies["correctionEnabled"] = [](cache_t& c, QVariant const& v)
-        {
-            melvoxCorrectionType_t type = melvoxCorrectionType_t();
-            bool enabled = false;
-            if (!readField(v, "type", type) || !readField(v, "enabled", enabled))
-                return false;
-            c.correctionEnabled[type] = enabled;
-            emit c.device->correctionEnabledUpdated(type, enabled);
-            return true;
-        };
-        replies["correctionMaxAge"] = [](cache_t& c, QVariant const& v)
-        {
-            melvoxCorrectionType_t type = melvoxCorrectionType_t();
-            unsigned int seconds = 0;
-            if (!readField(v, "type", type) || !readField(v, "seconds", seconds))
-                return false;
-            c.correctionMaxAge[type] = seconds;
-            emit c.device->correctionMaxAgeUpdated(type, seconds);
-            return true;
-        };
-        replies["ntripPPP"] = [](cache_t& c, QVariant const& v)
-        {
-            if (!fill(c.ntripPPP, v))
-                return false;
-            emit c.device->ntripPPPModeUpdated(c.ntripPPP.value);
+            (c.*cached).set(value);
+            (c.device->*told)(value);
             return true;
         };
     }
 
+    /** A group that is kept as it comes and told of without its value. */
+    template <typename value_t> static reply_t kept(cached_t<value_t> cache_t::*cached, void (device_t::*told)())
+    {
+        return [cached, told](cache_t& c, QVariant const& v)
+        {
+            value_t value = value_t();
+            if (!read(v, value))
+                return false;
+            (c.*cached).set(value);
+            (c.device->*told)();
+            return true;
+        };
+    }
+
+    /** The same for a group of a single field. */
+    template <typename value_t>
+    static reply_t kept(char const* field, cached_t<value_t> cache_t::*cached, void (device_t::*told)())
+    {
+        return [field, cached, told](cache_t& c, QVariant const& v)
+        {
+            value_t value = value_t();
+            if (!readFields(v, field, value))
+                return false;
+            (c.*cached).set(value);
+            (c.device->*told)();
+            return true;
+        };
+    }
+
+    /** A number that is told of and not kept. */
+    static reply_t passedOn(void (device_t::*told)(double))
+    {
+        return [told](cache_t& c, QVariant const& v)
+        {
+            double number = 0;
+            if (!read(v, number))
+                return false;
+            (c.device->*told)(number);
+            return true;
+        };
+    }
+
+    /** Three texts that are told of and not kept. */
+    static reply_t passedOn(char const* first, char const* second, char const* third,
+                            void (device_t::*told)(std::string const&, std::string const&, std::string const&))
+    {
+        return [first, second, third, told](cache_t& c, QVariant const& v)
+        {
+            std::string firstText, secondText, thirdText;
+            if (!readFields(v, first, firstText, second, secondText, third, thirdText))
+                return false;
+            (c.device->*told)(firstText, secondText, thirdText);
+            return true;
+        };
+    }
+
+    static void solution(replies_t& replies)
+    {
+        replies["elevationMask"] = kept(&cache_t::elevationMask, &device_t::elevationMaskUpdated);
+        replies["pdopLimit"] = kept(&cache_t::pdopLimit, &device_t::pdopLimitUpdated);
+        replies["geoidalModel"] = kept(&cache_t::geoidalModel, &device_t::geoidalModelUpdated);
+        replies["correctionEnabled"] = [](cache_t& c, QVariant const& v)
+        {
+            correctionEnabled_t value;
+            if (!read(v, value) || !isCorrectionType(value.type))
+                return false;
+            c.correctionEnabled[value.type] = value.enabled;
+            emit c.device->correctionEnabledUpdated(value.type, value.enabled);
+            return true;
+        };
+        replies["correctionMaxAge"] = [](cache_t& c, QVariant const& v)
+        {
+            correctionMaxAge_t value;
+            if (!read(v, value) || !isCorrectionType(value.type))
+                return false;
+            c.correctionMaxAge[value.type] = value.seconds;
+            emit c.device->correctionMaxAgeUpdated(value.type, value.seconds);
+            return true;
+        };
+        replies["ntripPPP"] = kept(&cache_t::ntripPPP, &device_t::ntripPPPModeUpdated);
+    }
+
     static void navigation(replies_t& replies)
     {
-        replies["measUse"] = [](cache_t& c, QVariant const& v)
-        {
-            if (!read(v, c.measUse))
-                return false;
-            emit c.device->measUseUpdated(c.measUse);
-            return true;
-        };
-        replies["dynamicConfig"] = [](cache_t& c, QVariant const& v)
-        {
-            if (!fill(c.dynamicConfig, v))
-                return false;
-            emit c.device->dynamicConfigUpdated(c.dynamicConfig.value);
-            return true;
-        };
+        replies["measUse"] = kept(&cache_t::measUse, &device_t::measUseUpdated);
+        replies["dynamicConfig"] = kept(&cache_t::dynamicConfig, &device_t::dynamicConfigUpdated);
         replies["extendedNavInfo"] = [](cache_t& c, QVariant const& v)
         {
             bool valid = false;
-            if (!readField(v, "valid", valid) || (valid && !read(v, c.extendedNavInfo.value)))
+            if (!readFields(v, "valid", valid) || (valid && !read(v, c.extendedNavInfo.value)))
                 return false;
             c.extendedNavInfo.valid = valid;
             emit c.device->extendedNavInfoUpdated();
@@ -161,9 +169,8 @@ struct remoteMelvoxDevice_t::privateData_t::replyTable_t
         };
         replies["vhdInfo"] = [](cache_t& c, QVariant const& v)
         {
-            double heading = 0, attitude = 0, baseline = 0, rms = 0;
-            if (!readField(v, "rawHeading", heading) || !readField(v, "attitude", attitude) ||
-                !readField(v, "baseline", baseline) || !readField(v, "headingRms", rms))
+            double heading, attitude, baseline, rms;
+            if (!readFields(v, "rawHeading", heading, "attitude", attitude, "baseline", baseline, "headingRms", rms))
                 return false;
             emit c.device->vhdInfoUpdated(heading, attitude, baseline, rms);
             return true;
@@ -174,42 +181,18 @@ struct remoteMelvoxDevice_t::privateData_t::replyTable_t
     {
         replies["antennaAlignment"] = [](cache_t& c, QVariant const& v)
         {
-            float angle = 0;
-            if (!readField(v, "angle", angle) || !fillField(c.antennaAlignmentMode, "mode", v))
+            antennaAlignment_t alignment;
+            if (!read(v, alignment))
                 return false;
-            c.antennaAlignmentUserAngle = angle;
-            emit c.device->antennaAlignmentModeUpdated(c.antennaAlignmentMode.value);
-            emit c.device->antennaAlignmentUserAngleUpdated(angle);
+            c.antennaAlignment.set(alignment);
+            emit c.device->antennaAlignmentModeUpdated(alignment.mode);
+            emit c.device->antennaAlignmentUserAngleUpdated(alignment.angle);
             return true;
         };
-        replies["antennaInfo"] = [](cache_t& c, QVariant const& v)
-        {
-            if (!fillPair(c.antennaInfo, c.antennaInfoValid, v))
-                return false;
-            emit c.device->antennaInfosUpdated();
-            return true;
-        };
-        replies["antennaHeight"] = [](cache_t& c, QVariant const& v)
-        {
-            if (!fillPair(c.antennaHeight, c.antennaHeightValid, v))
-                return false;
-            emit c.device->antennaHeightsUpdated();
-            return true;
-        };
-        replies["antennaRemote"] = [](cache_t& c, QVariant const& v)
-        {
-            if (!fill(c.antennaRemote, v))
-                return false;
-            emit c.device->antennaRemoteUpdated(c.antennaRemote.value);
-            return true;
-        };
-        replies["antennaDualMode"] = [](cache_t& c, QVariant const& v)
-        {
-            if (!fill(c.antennaDualMode, v))
-                return false;
-            emit c.device->antennaDualModeUpdated(c.antennaDualMode.value);
-            return true;
-        };
+        replies["antennaInfo"] = kept(&cache_t::antennaInfo, &device_t::antennaInfosUpdated);
+        replies["antennaHeight"] = kept(&cache_t::antennaHeight, &device_t::antennaHeightsUpdated);
+        replies["antennaRemote"] = kept(&cache_t::antennaRemote, &device_t::antennaRemoteUpdated);
+        replies["antennaDualMode"] = kept(&cache_t::antennaDualMode, &device_t::antennaDualModeUpdated);
         replies["antennaListReset"] = [](cache_t& c, QVariant const&)
         {
             c.antennaList.clear();
@@ -220,139 +203,51 @@ struct remoteMelvoxDevice_t::privateData_t::replyTable_t
         {
             if (v.userType() != QMetaType::QString)
                 return false;
-            c.antennaList << v.toString();
-            emit c.device->antennaNameAdded(c.antennaList.last());
+            QString const name = v.toString();
+            c.antennaList << name;
+            emit c.device->antennaNameAdded(name);
             return true;
         };
     }
 
     static void corrections(replies_t& replies)
     {
-        replies["correctionSelection"] = [](cache_t& c, QVariant const& v)
-        {
-            if (!fill(c.correctionSelection, v))
-                return false;
-            emit c.device->correctionSelectionUpdated(c.correctionSelection.value);
-            return true;
-        };
-        replies["netPriority"] = [](cache_t& c, QVariant const& v)
-        {
-            if (!fill(c.netPriority, v))
-                return false;
-            emit c.device->netPriorityUpdated(c.netPriority.value);
-            return true;
-        };
-        replies["rtgUseMode"] = [](cache_t& c, QVariant const& v)
-        {
-            if (!fill(c.rtgUseMode, v))
-                return false;
-            emit c.device->rtgUseModeUpdated(c.rtgUseMode.value);
-            return true;
-        };
-        replies["correctionSats"] = [](cache_t& c, QVariant const& v)
-        {
-            if (!fillById(c.correctionSats, v))
-                return false;
-            emit c.device->correctionSatsUpdated();
-            return true;
-        };
-        replies["correctionSatStats"] = [](cache_t& c, QVariant const& v)
-        {
-            unsigned int inUse = 0;
-            if (!readField(v, "inUse", inUse) || !fillById(c.correctionSatStats, v.toMap().value("sats")))
-                return false;
-            c.correctionSatInUse.value = inUse;
-            c.correctionSatInUse.valid = inUse != 0;
-            emit c.device->correctionSatStatsUpdated();
-            return true;
-        };
+        replies["correctionSelection"] = kept(&cache_t::correctionSelection, &device_t::correctionSelectionUpdated);
+        replies["netPriority"] = kept(&cache_t::netPriority, &device_t::netPriorityUpdated);
+        replies["rtgUseMode"] = kept(&cache_t::rtgUseMode, &device_t::rtgUseModeUpdated);
+        replies["correctionSats"] = kept(&cache_t::correctionSats, &device_t::correctionSatsUpdated);
+        replies["correctionSatStats"] = kept(&cache_t::correctionSatStats, &device_t::correctionSatStatsUpdated);
         replies["correctionSatSelection"] = [](cache_t& c, QVariant const& v)
         {
-            int id = 0;
-            if (!readField(v, "id", id) || !fillField(c.correctionSatAuto, "auto", v))
+            correctionSatSelection_t selection;
+            if (!read(v, selection))
                 return false;
-            if (c.correctionSatAuto.value)
+            c.correctionSatSelection.set(selection);
+            if (selection.automatic)
                 emit c.device->correctionSatAutoSelected();
             else
-                emit c.device->correctionSatSelected(id);
+                emit c.device->correctionSatSelected(selection.id);
             return true;
         };
-        replies["userCorrectionSat"] = [](cache_t& c, QVariant const& v)
-        {
-            unsigned int id = 0;
-            float frequency = 0;
-            if (!readField(v, "id", id) || !readField(v, "frequency", frequency) ||
-                !fillField(c.userCorrectionSatDefined, "defined", v))
-                return false;
-            c.userCorrectionSatId = id;
-            c.userCorrectionSatFrequency = frequency;
-            emit c.device->userCorrectionSatUpdated();
-            return true;
-        };
-        replies["mrvAlmanacInfo"] = [](cache_t& c, QVariant const& v)
-        {
-            if (!fill(c.mrvAlmanacInfo, v))
-                return false;
-            emit c.device->mrvAlmanacInfoUpdated();
-            return true;
-        };
-        replies["starfireAlmStatus"] = [](cache_t& c, QVariant const& v)
-        {
-            if (!fillField(c.newStarfireAlmReady, "newReady", v))
-                return false;
-            emit c.device->starfireAlmStatusUpdated();
-            return true;
-        };
-        replies["starfireAlmSwitchPolicy"] = [](cache_t& c, QVariant const& v)
-        {
-            if (!fill(c.starfireAlmSwitchPolicy, v))
-                return false;
-            emit c.device->starfireAlmSwitchPolicyUpdated();
-            return true;
-        };
+        replies["userCorrectionSat"] = kept(&cache_t::userCorrectionSat, &device_t::userCorrectionSatUpdated);
+        replies["mrvAlmanacInfo"] = kept(&cache_t::mrvAlmanacInfo, &device_t::mrvAlmanacInfoUpdated);
+        replies["starfireAlmStatus"] =
+            kept("newReady", &cache_t::newStarfireAlmReady, &device_t::starfireAlmStatusUpdated);
+        replies["starfireAlmSwitchPolicy"] =
+            kept(&cache_t::starfireAlmSwitchPolicy, &device_t::starfireAlmSwitchPolicyUpdated);
     }
 
     static void differential(replies_t& replies)
     {
-        replies["diffConfig"] = [](cache_t& c, QVariant const& v)
-        {
-            if (!fill(c.diffConfig, v))
-                return false;
-            emit c.device->diffConfigUpdated(c.diffConfig.value);
-            return true;
-        };
-        replies["rtcmVersion"] = [](cache_t& c, QVariant const& v)
-        {
-            if (!fill(c.rtcmVersion, v))
-                return false;
-            emit c.device->rtcmVersionUpdated(c.rtcmVersion.value);
-            return true;
-        };
-        replies["baseName"] = [](cache_t& c, QVariant const& v)
-        {
-            if (!fill(c.baseName, v))
-                return false;
-            emit c.device->baseNameUpdated(c.baseName.value);
-            return true;
-        };
-        replies["basePosition"] = [](cache_t& c, QVariant const& v)
-        {
-            if (!fill(c.basePosition, v))
-                return false;
-            emit c.device->basePositionUpdated(c.basePosition.value);
-            return true;
-        };
+        replies["diffConfig"] = kept(&cache_t::diffConfig, &device_t::diffConfigUpdated);
+        replies["rtcmVersion"] = kept(&cache_t::rtcmVersion, &device_t::rtcmVersionUpdated);
+        replies["baseName"] = kept(&cache_t::baseName, &device_t::baseNameUpdated);
+        replies["basePosition"] = kept(&cache_t::basePosition, &device_t::basePositionUpdated);
     }
 
     static void outputs(replies_t& replies)
     {
-        replies["activePort"] = [](cache_t& c, QVariant const& v)
-        {
-            if (!fill(c.activePort, v))
-                return false;
-            emit c.device->activePortUpdated(c.activePort.value);
-            return true;
-        };
+        replies["activePort"] = kept(&cache_t::activePort, &device_t::activePortUpdated);
         replies["outputsCleared"] = [](cache_t& c, QVariant const&)
         {
             c.outputs.clear();
@@ -361,10 +256,10 @@ struct remoteMelvoxDevice_t::privateData_t::replyTable_t
         };
         replies["output"] = [](cache_t& c, QVariant const& v)
         {
-            melvoxPort_t port = melvoxPort_t();
+            melvoxPort_t port;
             std::string name;
-            melvoxMessageOutput_t output = melvoxMessageOutput_t();
-            if (!readPort(v, port) || !readField(v, "message", name) || !read(v, output))
+            melvoxMessageOutput_t output;
+            if (!readAtPort(v, port, output) || !readFields(v, "message", name))
                 return false;
             c.outputs[port][name] = output;
             emit c.device->outputConfigUpdated(port, name, output);
@@ -372,120 +267,81 @@ struct remoteMelvoxDevice_t::privateData_t::replyTable_t
         };
         replies["portTxRxInfo"] = [](cache_t& c, QVariant const& v)
         {
-            melvoxPort_t port = melvoxPort_t();
-            if (!readPort(v, port) || !read(v, c.portTxRxInfo[port]))
+            melvoxPort_t port;
+            PortTxRxInfo info;
+            if (!readAtPort(v, port, info))
                 return false;
+            c.portTxRxInfo[port] = info;
             emit c.device->portTxRxInfoUpdated();
             return true;
         };
-        replies["ggaMode"] = [](cache_t& c, QVariant const& v)
-        {
-            ggaQuality_t quality = ggaQuality_t();
-            melvoxGgaCorrectionsScaling_t scaling = melvoxGgaCorrectionsScaling_t();
-            if (!readField(v, "quality", quality) || !readField(v, "scaling", scaling) ||
-                !fillField(c.ggaMode, "mode", v))
-                return false;
-            c.ggaQuality = quality;
-            c.ggaCorrectionsScaling = scaling;
-            emit c.device->ggaModeUpdated();
-            return true;
-        };
-        replies["talkerIdMode"] = [](cache_t& c, QVariant const& v)
-        {
-            if (!fill(c.talkerIdMode, v))
-                return false;
-            emit c.device->talkerIdModeUpdated(c.talkerIdMode.value);
-            return true;
-        };
+        replies["ggaMode"] = kept(&cache_t::ggaMode, &device_t::ggaModeUpdated);
+        replies["talkerIdMode"] = kept(&cache_t::talkerIdMode, &device_t::talkerIdModeUpdated);
     }
 
     static void ports(replies_t& replies)
     {
         replies["serialConfig"] = [](cache_t& c, QVariant const& v)
         {
-            melvoxPort_t port = melvoxPort_t();
-            melvoxSerialPortConfig_t config = melvoxSerialPortConfig_t();
-            if (!readPort(v, port) || !read(v, config))
+            melvoxPort_t port;
+            melvoxSerialPortConfig_t config;
+            if (!readAtPort(v, port, config))
                 return false;
             emit c.device->serialConfigUpdated(port, config);
             return true;
         };
         replies["serialRs232Mode"] = [](cache_t& c, QVariant const& v)
         {
-            melvoxPort_t port = melvoxPort_t();
-            bool rs232 = false;
-            if (!readPort(v, port) || !readField(v, "rs232", rs232))
+            melvoxPort_t port;
+            bool rs232;
+            if (!readFields(v, "port", port, "rs232", rs232) || !isPort(port))
                 return false;
             emit c.device->serialRs232ModeUpdated(port, rs232);
             return true;
         };
         replies["vcomConfig"] = [](cache_t& c, QVariant const& v)
         {
-            melvoxPort_t port = melvoxPort_t();
-            melvoxVcomConfig_t config = melvoxVcomConfig_t();
-            if (!readPort(v, port) || !read(v, config))
+            melvoxPort_t port;
+            melvoxVcomConfig_t config;
+            if (!readAtPort(v, port, config))
                 return false;
             emit c.device->vcomConfigUpdated(port, config);
             return true;
         };
-        replies["usbMode"] = [](cache_t& c, QVariant const& v)
-        {
-            if (!fill(c.usbMode, v))
-                return false;
-            emit c.device->usbModeUpdated(c.usbMode.value);
-            return true;
-        };
+        replies["usbMode"] = kept(&cache_t::usbMode, &device_t::usbModeUpdated);
         replies["badBaud"] = [](cache_t& c, QVariant const&)
         {
             emit c.device->badBaudDetected();
             return true;
         };
-        replies["ppsConfig"] = [](cache_t& c, QVariant const& v)
-        {
-            if (!fill(c.ppsConfig, v))
-                return false;
-            emit c.device->ppsConfigUpdated(c.ppsConfig.value);
-            return true;
-        };
+        replies["ppsConfig"] = kept(&cache_t::ppsConfig, &device_t::ppsConfigUpdated);
     }
 
     static void network(replies_t& replies)
     {
         replies["ethernetConfig"] = [](cache_t& c, QVariant const& v)
         {
-            int source = MELVOX_ETH_CFG_SOURCE_UNKNOWN;
-            bool dhcp = false;
-            if (!readField(v, "source", source) || source < 0 || source >= MELVOX_NUM_ETH_CFG_SOURCES ||
-                !readField(v, "dhcp", dhcp) || !fill(c.ethernetConfig[source], v))
+            melvoxEthernetConfigSource_t source;
+            ethernetSetting_t setting;
+            if (!readFields(v, "source", source) || !isEthernetSource(source) || !read(v, setting))
                 return false;
-            c.ethernetConfigDhcp[source] = dhcp;
-            emit c.device->ethernetConfigUpdated(dhcp, c.ethernetConfig[source].value);
+            c.ethernetConfig[source] = setting;
+            emit c.device->ethernetConfigUpdated(setting.dhcp, setting.config);
             return true;
         };
-        replies["webControl"] = [](cache_t& c, QVariant const& v)
-        {
-            if (!fillField(c.webUiEnabled, "enabled", v))
-                return false;
-            emit c.device->webControlUpdated();
-            return true;
-        };
+        replies["webControl"] = kept("enabled", &cache_t::webUiEnabled, &device_t::webControlUpdated);
         replies["webUiUploadState"] = [](cache_t& c, QVariant const& v)
         {
-            melvoxWebUiUploadState_t state = melvoxWebUiUploadState_t();
-            if (!readField(v, "state", state) || !readField(v, "description", c.webUiUploadDescription))
+            webUiUploadState_t state;
+            if (!read(v, state))
                 return false;
-            c.webUiUploadState = state;
+            c.webUiUploadState.set(state);
+            if (state.state != MELVOX_WEB_UI_UPLOAD_IN_PROGRESS)
+                c.webUiFiles.release();
             emit c.device->webUiUploadStateUpdated();
             return true;
         };
-        replies["webUiUploadPercent"] = [](cache_t& c, QVariant const& v)
-        {
-            double fraction = 0;
-            if (!read(v, fraction))
-                return false;
-            emit c.device->webUiUploadPercentUpdated(fraction);
-            return true;
-        };
+        replies["webUiUploadPercent"] = passedOn(&device_t::webUiUploadPercentUpdated);
     }
 
     static void firmware(replies_t& replies)
@@ -493,7 +349,7 @@ struct remoteMelvoxDevice_t::privateData_t::replyTable_t
         replies["firmwareVersion"] = [](cache_t& c, QVariant const& v)
         {
             std::string component, version;
-            if (!readField(v, "component", component) || !readField(v, "version", version))
+            if (!readFields(v, "component", component, "version", version))
                 return false;
             int i = 0;
             while (i < c.firmwareVersions.size() && c.firmwareVersions.at(i).first != component)
@@ -507,21 +363,17 @@ struct remoteMelvoxDevice_t::privateData_t::replyTable_t
         };
         replies["firmwareUpdateState"] = [](cache_t& c, QVariant const& v)
         {
-            firmwareUpdateState_t state = firmwareUpdateState_t();
+            firmwareUpdateState_t state;
             std::string description;
-            if (!readField(v, "state", state) || !readField(v, "description", description))
+            if (!readFields(v, "state", state, "description", description))
                 return false;
+            c.firmwareUpdating = state == FIRMWARE_UPDATE_IN_PROGRESS;
+            if (!c.firmwareUpdating)
+                c.firmwareFiles.release();
             emit c.device->firmwareUpdateStateUpdated(state, description);
             return true;
         };
-        replies["firmwareUpdatePercent"] = [](cache_t& c, QVariant const& v)
-        {
-            double fraction = 0;
-            if (!read(v, fraction))
-                return false;
-            emit c.device->firmwareUpdateProgressUpdated(fraction);
-            return true;
-        };
+        replies["firmwareUpdatePercent"] = passedOn(&device_t::firmwareUpdateProgressUpdated);
         replies["firmwareUpdateProgress"] = [](cache_t& c, QVariant const& v)
         {
             QList<melvoxFirmwareUpdateProgress_t> components;
@@ -543,19 +395,13 @@ struct remoteMelvoxDevice_t::privateData_t::replyTable_t
         replies["profile"] = [](cache_t& c, QVariant const& v)
         {
             std::string name;
-            unsigned int modified = 0;
-            if (!readField(v, "name", name) || !readField(v, "modified", modified))
+            unsigned int modified;
+            if (!readFields(v, "name", name, "modified", modified))
                 return false;
             emit c.device->profileUpdated(name, modified);
             return true;
         };
-        replies["activeProfile"] = [](cache_t& c, QVariant const& v)
-        {
-            if (!fill(c.activeProfile, v))
-                return false;
-            emit c.device->activeProfileUpdated(c.activeProfile.value);
-            return true;
-        };
+        replies["activeProfile"] = kept(&cache_t::activeProfile, &device_t::activeProfileUpdated);
         replies["profileDump"] = [](cache_t& c, QVariant const& v) { return c.takeProfileDump(v); };
     }
 
@@ -563,33 +409,15 @@ struct remoteMelvoxDevice_t::privateData_t::replyTable_t
     {
         replies["productInfo"] = [](cache_t& c, QVariant const& v)
         {
-            std::string serial, model;
-            if (!readField(v, "serialNumber", serial) || !readField(v, "modelName", model))
+            productInfo_t info;
+            if (!read(v, info))
                 return false;
-            c.serialNumber = serial;
-            c.modelName = model;
-            c.productInfoValid = true;
-            emit c.device->productInfoUpdated(serial, model);
+            c.productInfo.set(info);
+            emit c.device->productInfoUpdated(info.serialNumber, info.modelName);
             return true;
         };
-        replies["irdmStat"] = [](cache_t& c, QVariant const& v)
-        {
-            std::string imei, provisioning, modem;
-            if (!readField(v, "imei", imei) || !readField(v, "provisioningStatus", provisioning) ||
-                !readField(v, "modemStatus", modem))
-                return false;
-            emit c.device->irdmStatUpdated(imei, provisioning, modem);
-            return true;
-        };
-        replies["lteModemStat"] = [](cache_t& c, QVariant const& v)
-        {
-            std::string rssi, network, modem;
-            if (!readField(v, "rssi", rssi) || !readField(v, "networkStatus", network) ||
-                !readField(v, "modemStatus", modem))
-                return false;
-            emit c.device->lteModemStatUpdated(rssi, network, modem);
-            return true;
-        };
+        replies["irdmStat"] = passedOn("imei", "provisioningStatus", "modemStatus", &device_t::irdmStatUpdated);
+        replies["lteModemStat"] = passedOn("rssi", "networkStatus", "modemStatus", &device_t::lteModemStatUpdated);
     }
 
     static replies_t all()
@@ -614,7 +442,7 @@ bool remoteMelvoxDevice_t::privateData_t::take(melvox_link::message_t const& mes
 {
     static replyTable_t::replies_t const replies = replyTable_t::all();
     emit device->messageReceived(streamOf(message.group));
-    replyTable_t::reply_t const reply = replies.value(message.group, 0);
+    replyTable_t::reply_t const reply = replies.value(message.group);
     return reply && reply(*this, message.value);
 }
 

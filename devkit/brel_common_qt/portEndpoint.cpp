@@ -11,7 +11,8 @@ namespace melvox_kit
 {
 
 portEndpoint_t::portEndpoint_t(melvox_link::link_t* link, linkKind_t kind)
-    : m_link(link), m_kind(kind), m_lock(PORT_LOCK_NONE), m_uploading(false), m_line()
+    : m_link(link), m_kind(kind), m_lock(PORT_LOCK_NONE), m_lockAsked(false), m_releasing(false), m_uploading(false),
+      m_line()
 {
     qRegisterMetaType<message_t>("melvox_link::message_t");
     connect(link, SIGNAL(received(melvox_link::message_t)), SLOT(take(melvox_link::message_t)));
@@ -25,7 +26,7 @@ bool portEndpoint_t::isOpen() const
 
 void portEndpoint_t::send(message_t const& message)
 {
-    if (m_lock == PORT_LOCK_NONE)
+    if (!isHeldBack())
     {
         sendNow(message);
         return;
@@ -49,10 +50,16 @@ void portEndpoint_t::sendNow(message_t const& message)
 
 void portEndpoint_t::requestLock(portLock_t lock)
 {
-    if (isOpen())
-        sendNow(message_t(message_t::COMMAND, "portLock", int(lock)));
-    else
+    if (!isOpen())
+    {
         QTimer::singleShot(0, this, SLOT(refuseLock()));
+        return;
+    }
+    sendNow(message_t(message_t::COMMAND, "portLock", int(lock)));
+    m_lockAsked = lock != PORT_LOCK_NONE;
+    m_releasing = lock == PORT_LOCK_NONE;
+    if (m_releasing)
+        sendWaiting();
 }
 
 void portEndpoint_t::refuseLock()
@@ -71,21 +78,31 @@ void portEndpoint_t::upload(QByteArray const& bytes)
 
 void portEndpoint_t::refuseUpload()
 {
+    if (!m_uploading)
+        return;
     m_uploading = false;
     emit uploadResult(UPLOAD_PORT_CLOSED);
 }
 
 void portEndpoint_t::take(message_t const& message)
 {
+    // A line that loops back must not pass for a receiver that took everything.
+    if (message.kind != message_t::REPORT && message.kind != message_t::EVENT)
+        return;
     int number = 0;
-    if (message.group == "portLock" && read(message.value, number))
+    if (message.group == "portLock")
     {
-        takeLock(portLock_t(number));
+        if (read(message.value, number) && number >= PORT_LOCK_NONE && number <= PORT_LOCK_PLUGIN)
+            takeLock(portLock_t(number));
     }
-    else if (message.group == "uploadResult" && read(message.value, number))
+    else if (message.group == "uploadResult")
     {
-        m_uploading = false;
-        emit uploadResult(uploadStatus_t(number));
+        // One that comes twice must not pass for the result of the next block.
+        if (m_uploading && read(message.value, number))
+        {
+            m_uploading = false;
+            emit uploadResult(uploadStatus_t(number));
+        }
     }
     else
     {
@@ -96,23 +113,29 @@ void portEndpoint_t::take(message_t const& message)
 void portEndpoint_t::takeOpen(bool open)
 {
     if (!open)
-    {
-        // What waited was meant for a receiver that is gone; whoever held the lock or sent a block must hear of it.
-        m_waiting.clear();
-        if (m_uploading)
-            refuseUpload();
-        if (m_lock != PORT_LOCK_NONE)
-            takeLock(PORT_LOCK_NONE);
-    }
+        loseAll();
     emit openChanged(open);
+}
+
+/** What waited was meant for a receiver that is gone; whoever holds the lock, waits for it, or sent a block must hear
+ *  of it. */
+void portEndpoint_t::loseAll()
+{
+    m_waiting.clear();
+    refuseUpload();
+    if (m_lock != PORT_LOCK_NONE || m_lockAsked)
+        takeLock(PORT_LOCK_NONE);
 }
 
 void portEndpoint_t::takeLock(portLock_t lock)
 {
     m_lock = lock;
-    emit lockStateUpdated(lock);
-    if (m_lock == PORT_LOCK_NONE)
+    m_lockAsked = false;
+    m_releasing = false;
+    // Before anybody is told, who may have more to send.
+    if (!isHeldBack())
         sendWaiting();
+    emit lockStateUpdated(lock);
 }
 
 void portEndpoint_t::sendWaiting()
@@ -137,7 +160,8 @@ serialPortConfig_t const* portEndpoint_t::line()
 
 void portEndpoint_t::setLine(serialPortConfig_t const& config, bool localOnly)
 {
-    if (!m_link)
+    melvox_link::line_t line = melvox_link::line_t();
+    if (!m_link || !m_link->line(line))
         return;
     if (!localOnly)
     {
@@ -145,7 +169,6 @@ void portEndpoint_t::setLine(serialPortConfig_t const& config, bool localOnly)
         sendNow(message_t(message_t::COMMAND, "serialConfig", writeRecord(receiverSide)));
     }
     m_line.flow = config.flow;
-    melvox_link::line_t line;
     line.baud = config.baud;
     line.dataBits = config.charSize == CHAR_SIZE_7 ? 7 : 8;
     line.parity = config.parity == PARITY_O ? 'O' : config.parity == PARITY_E ? 'E' : 'N';

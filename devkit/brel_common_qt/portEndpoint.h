@@ -23,11 +23,12 @@ public:
     linkKind_t kind() const { return m_kind; }
     brel_common_qt::portLock_t lock() const { return m_lock; }
 
-    /** Waits while somebody holds the lock; a request that waits already is not queued twice. */
+    /** Waits while the lock is held; a request that waits already is not queued twice. */
     void send(melvox_link::message_t const& message);
     /** What belongs to the transfer that the lock is for. */
     void sendNow(melvox_link::message_t const& message);
 
+    /** What waits goes out right behind a release: were the answer to it lost, nothing would ever be sent again. */
     void requestLock(brel_common_qt::portLock_t lock);
     void upload(QByteArray const& bytes);
 
@@ -48,12 +49,16 @@ private slots:
     void refuseUpload();
 
 private:
+    bool isHeldBack() const { return m_lock != brel_common_qt::PORT_LOCK_NONE && !m_releasing; }
     void takeLock(brel_common_qt::portLock_t lock);
+    void loseAll();
     void sendWaiting();
 
     QPointer<melvox_link::link_t> m_link;
     linkKind_t m_kind;
     brel_common_qt::portLock_t m_lock;
+    bool m_lockAsked;
+    bool m_releasing;
     bool m_uploading;
     QList<melvox_link::message_t> m_waiting;
     brel_common_qt::serialPortConfig_t m_line;

@@ -68,7 +68,7 @@ void remotePort_t::setLockState(portLock_t state)
 
 void remotePort_t::uploadData(QExplicitlySharedDataPointer<buffer_t> data)
 {
-    m_data->endpoint.upload(QByteArray(data->data(), int(data->length())));
+    m_data->endpoint.upload(data ? QByteArray(data->data(), int(data->length())) : QByteArray());
 }
 
 remoteSerialPort_t::remoteSerialPort_t(privateData_t* data, QObject* parent) : remotePort_t(data, parent)

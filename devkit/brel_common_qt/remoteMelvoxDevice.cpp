@@ -3,6 +3,7 @@
 #include "remoteMelvoxDevice_p.h"
 #include "values.h"
 
+#include <QTimer>
 #include <QtDebug>
 
 using namespace melvox_kit;
@@ -112,6 +113,13 @@ QVariantMap atPort(melvoxPort_t port, QVariantMap value)
     return value;
 }
 
+QVariantMap named(char const* name, QVariant const& value)
+{
+    QVariantMap map;
+    map.insert(name, value);
+    return map;
+}
+
 QVariantMap namedPair(char const* first, QVariant const& firstValue, char const* second, QVariant const& secondValue)
 {
     QVariantMap value;
@@ -120,15 +128,27 @@ QVariantMap namedPair(char const* first, QVariant const& firstValue, char const*
     return value;
 }
 
+/** Names a file to the receiver, which may read it from now on. */
+QVariantMap offered(sentFiles_t& files, char const* pathField, char const* sizeField, std::string const& path)
+{
+    qint64 const size = files.offer(write(path).toString(), pathFromText(path));
+    return namedPair(pathField, write(path), sizeField, double(size));
+}
+
+/** The same where an empty path stands for no file. */
+QVariantMap offeredIfAny(sentFiles_t& files, char const* pathField, char const* sizeField, std::string const& path)
+{
+    return path.empty() ? named(pathField, write(path)) : offered(files, pathField, sizeField, path);
+}
+
 } // namespace
 
 remoteMelvoxDevice_t::privateData_t::privateData_t(remoteMelvoxDevice_t* device_, portEndpoint_t* endpoint_)
-    : device(device_), endpoint(endpoint_), taker([this](message_t const& message) { takeOrLog(message); }),
-      antennaAlignmentUserAngle(0), antennaInfoValid(false), antennaInfo(), antennaHeightValid(false), antennaHeight(),
-      userCorrectionSatId(0), userCorrectionSatFrequency(0), ggaQuality(GGA_QUALITY_UNKNOWN),
-      ggaCorrectionsScaling(MELVOX_GGA_CORRECTIONS_UNSCALED), showDtmWarning(true), ethernetConfigDhcp(),
-      webUiUploadState(MELVOX_WEB_UI_UPLOAD_COMPLETE), productInfoValid(false)
+    : device(device_), endpoint(endpoint_),
+      listener([this](message_t const& message) { takeOrLog(message); }, [this]() { failDumps(); }),
+      showDtmWarning(true), firmwareUpdating(false)
 {
+    webUiUploadState.value.state = MELVOX_WEB_UI_UPLOAD_COMPLETE;
 }
 
 void remoteMelvoxDevice_t::privateData_t::request(char const* group)
@@ -148,22 +168,23 @@ void remoteMelvoxDevice_t::privateData_t::commandNow(char const* group, QVariant
 
 void remoteMelvoxDevice_t::privateData_t::takeOrLog(message_t const& message)
 {
+    // The group alone: nobody knows how large the rest is.
     if (!take(message))
-        qDebug("ignored from the receiver: %s", qPrintable(melvox_link::toText(message)));
+        qDebug("ignored from the receiver: %s", qPrintable(message.group.left(100)));
 }
 
 bool remoteMelvoxDevice_t::privateData_t::sendFileBlock(QVariant const& wanted)
 {
-    std::string path;
-    double offset = 0;
-    double size = 0;
-    if (!readField(wanted, "path", path) || !readField(wanted, "offset", offset) || !readField(wanted, "size", size) ||
-        offset < 0 || size < 1)
+    QString name;
+    qint64 offset = 0;
+    qint64 size = 0;
+    if (!readFields(wanted, "path", name, "offset", offset, "size", size) || offset < 0 || size < 1)
         return false;
-    QVariantMap answer = namedPair("path", write(path), "offset", offset);
+    QVariantMap answer = namedPair("path", name, "offset", double(offset));
     QByteArray block;
     QString reason;
-    if (!sentFiles.read(pathFromText(path), qint64(offset), qint64(size), block, reason))
+    sentFiles_t& files = webUiFiles.isOffered(name) ? webUiFiles : firmwareFiles;
+    if (!files.read(name, offset, size, block, reason))
         answer.insert("error", reason);
     answer.insert("data", block);
     commandNow("fileBlock", answer);
@@ -172,30 +193,43 @@ bool remoteMelvoxDevice_t::privateData_t::sendFileBlock(QVariant const& wanted)
 
 bool remoteMelvoxDevice_t::privateData_t::takeProfileDump(QVariant const& value)
 {
-    std::string path, description;
+    QString name;
+    std::string description;
     bool success = false;
-    if (!readField(value, "path", path) || !readField(value, "success", success) ||
-        !readField(value, "description", description))
+    QByteArray data;
+    if (!readFields(value, "path", name, "success", success, "description", description) ||
+        (success && !readFields(value, "data", data)))
         return false;
     // Only what was asked for is written: a receiver must not be able to choose files of ours.
-    if (!dumps.remove(pathFromText(path)))
+    if (!dumps.contains(name))
         return false;
+    std::string const path = dumps.take(name);
     QString reason;
-    if (success && !writeWhole(pathFromText(path), value.toMap().value("data").toByteArray(), reason))
+    if (success && !writeWhole(pathFromText(path), data, reason))
     {
         success = false;
-        description = QString("The profile could not be written: %1").arg(reason).toStdString();
+        description = textFrom(remoteMelvoxDevice_t::tr("The profile could not be written: %1").arg(reason));
     }
     emit device->profileDumpDone(path, success, description);
     return true;
+}
+
+void remoteMelvoxDevice_t::privateData_t::failDumps()
+{
+    QHash<QString, std::string> const failed = dumps;
+    dumps.clear();
+    for (std::string const& path : failed)
+        emit device->profileDumpDone(path, false,
+                                     textFrom(remoteMelvoxDevice_t::tr("The link to the receiver was lost.")));
 }
 
 remoteMelvoxDevice_t::remoteMelvoxDevice_t(remotePort_t* port, QObject* parent)
     : remoteDevice_t(port, parent), m_data(new privateData_t(this, &port->m_data->endpoint))
 {
     registerMetaTypes();
-    m_data->taker.connect(m_data->endpoint, SIGNAL(received(melvox_link::message_t)),
-                          SLOT(take(melvox_link::message_t)));
+    m_data->listener.connect(m_data->endpoint, SIGNAL(received(melvox_link::message_t)),
+                             SLOT(take(melvox_link::message_t)));
+    m_data->listener.connect(m_data->endpoint, SIGNAL(openChanged(bool)), SLOT(changeOpen(bool)));
 }
 
 remoteMelvoxDevice_t::~remoteMelvoxDevice_t()
@@ -287,7 +321,8 @@ bool remoteMelvoxDevice_t::getCorrectionEnabled(melvoxCorrectionType_t type, boo
 
 void remoteMelvoxDevice_t::setCorrectionEnabled(melvoxCorrectionType_t type, bool enabled)
 {
-    m_data->command("correctionEnabled", namedPair("type", write(type), "enabled", write(enabled)));
+    correctionEnabled_t const value = {type, enabled};
+    m_data->command("correctionEnabled", writeRecord(value));
 }
 
 void remoteMelvoxDevice_t::queryCorrectionsMaxAge()
@@ -306,7 +341,8 @@ bool remoteMelvoxDevice_t::getCorrectionMaxAge(melvoxCorrectionType_t type, unsi
 
 void remoteMelvoxDevice_t::setCorrectionMaxAge(melvoxCorrectionType_t type, unsigned int seconds)
 {
-    m_data->command("correctionMaxAge", namedPair("type", write(type), "seconds", write(seconds)));
+    correctionMaxAge_t const value = {type, seconds};
+    m_data->command("correctionMaxAge", writeRecord(value));
 }
 
 void remoteMelvoxDevice_t::queryNtripPPPMode()
@@ -338,7 +374,7 @@ void remoteMelvoxDevice_t::queryMeasUse()
 
 bool remoteMelvoxDevice_t::getMeasUse(std::string const& name, bool& use) const
 {
-    for (meas_t const& meas : m_data->measUse)
+    for (meas_t const& meas : m_data->measUse.value)
     {
         if (meas.name == name)
         {
@@ -396,22 +432,23 @@ void remoteMelvoxDevice_t::queryAntennaAlignment()
 
 bool remoteMelvoxDevice_t::antennaAlignmentValid() const
 {
-    return m_data->antennaAlignmentMode.valid;
+    return m_data->antennaAlignment.valid;
 }
 
 melvoxAntennaAlignmentMode_t remoteMelvoxDevice_t::antennaAlignmentMode() const
 {
-    return m_data->antennaAlignmentMode.value;
+    return m_data->antennaAlignment.value.mode;
 }
 
 float remoteMelvoxDevice_t::antennaAlignmentUserAngle() const
 {
-    return m_data->antennaAlignmentUserAngle;
+    return m_data->antennaAlignment.value.angle;
 }
 
 void remoteMelvoxDevice_t::setAntennaAlignment(melvoxAntennaAlignmentMode_t mode, float degrees)
 {
-    m_data->command("antennaAlignment", namedPair("mode", write(mode), "angle", write(degrees)));
+    antennaAlignment_t const value = {mode, degrees};
+    m_data->command("antennaAlignment", writeRecord(value));
 }
 
 void remoteMelvoxDevice_t::queryAntennaInfo()
@@ -424,12 +461,12 @@ void remoteMelvoxDevice_t::queryAntennaInfo()
 
 bool remoteMelvoxDevice_t::antennaInfoValid() const
 {
-    return m_data->antennaInfoValid;
+    return m_data->antennaInfo.valid;
 }
 
 melvoxAntennaInfo_t const& remoteMelvoxDevice_t::antennaInfo(melvoxAntenna_t antenna) const
 {
-    return m_data->antennaInfo[antenna == MELVOX_ANTENNA_SECOND ? 1 : 0];
+    return m_data->antennaInfo.value.of[antenna == MELVOX_ANTENNA_SECOND ? 1 : 0];
 }
 
 void remoteMelvoxDevice_t::setAntennaInfo(melvoxAntennaInfo_t const& first, melvoxAntennaInfo_t const& second)
@@ -444,12 +481,12 @@ void remoteMelvoxDevice_t::queryAntennaHeight()
 
 bool remoteMelvoxDevice_t::antennaHeightValid() const
 {
-    return m_data->antennaHeightValid;
+    return m_data->antennaHeight.valid;
 }
 
 melvoxAntennaHeight_t const& remoteMelvoxDevice_t::antennaHeight(melvoxAntenna_t antenna) const
 {
-    return m_data->antennaHeight[antenna == MELVOX_ANTENNA_SECOND ? 1 : 0];
+    return m_data->antennaHeight.value.of[antenna == MELVOX_ANTENNA_SECOND ? 1 : 0];
 }
 
 void remoteMelvoxDevice_t::setAntennaHeight(melvoxAntennaHeight_t const& first, melvoxAntennaHeight_t const& second)
@@ -551,12 +588,12 @@ void remoteMelvoxDevice_t::queryCorrectionSats()
 
 melvoxCorrectionSatMap_t const& remoteMelvoxDevice_t::correctionSats() const
 {
-    return m_data->correctionSats;
+    return m_data->correctionSats.value;
 }
 
 melvoxCorrectionSatStatsMap_t const& remoteMelvoxDevice_t::correctionSatStats() const
 {
-    return m_data->correctionSatStats;
+    return m_data->correctionSatStats.value.sats;
 }
 
 void remoteMelvoxDevice_t::queryCorrectionSatSelected()
@@ -566,52 +603,54 @@ void remoteMelvoxDevice_t::queryCorrectionSatSelected()
 
 bool remoteMelvoxDevice_t::correctionSatSelectionValid() const
 {
-    return m_data->correctionSatAuto.valid;
+    return m_data->correctionSatSelection.valid;
 }
 
 bool remoteMelvoxDevice_t::correctionSatSelectionIsAuto() const
 {
-    return m_data->correctionSatAuto.value;
+    return m_data->correctionSatSelection.value.automatic;
 }
 
 bool remoteMelvoxDevice_t::correctionSatInUseValid() const
 {
-    return m_data->correctionSatInUse.valid;
+    return m_data->correctionSatStats.value.inUse != 0;
 }
 
 unsigned int remoteMelvoxDevice_t::correctionSatInUse() const
 {
-    return m_data->correctionSatInUse.value;
+    return m_data->correctionSatStats.value.inUse;
 }
 
 void remoteMelvoxDevice_t::selectCorrectionSat(int id)
 {
-    m_data->command("correctionSatSelection", namedPair("auto", false, "id", id));
+    correctionSatSelection_t const value = {false, id};
+    m_data->command("correctionSatSelection", writeRecord(value));
 }
 
 void remoteMelvoxDevice_t::autoSelectCorrectionSat()
 {
-    m_data->command("correctionSatSelection", namedPair("auto", true, "id", 0));
+    correctionSatSelection_t const value = {true, 0};
+    m_data->command("correctionSatSelection", writeRecord(value));
 }
 
 bool remoteMelvoxDevice_t::userCorrectionSatValid() const
 {
-    return m_data->userCorrectionSatDefined.valid;
+    return m_data->userCorrectionSat.valid;
 }
 
 bool remoteMelvoxDevice_t::userCorrectionSatDefined() const
 {
-    return m_data->userCorrectionSatDefined.value;
+    return m_data->userCorrectionSat.value.defined;
 }
 
 unsigned int remoteMelvoxDevice_t::userCorrectionSatId() const
 {
-    return m_data->userCorrectionSatId;
+    return m_data->userCorrectionSat.value.id;
 }
 
 float remoteMelvoxDevice_t::userCorrectionSatFrequency() const
 {
-    return m_data->userCorrectionSatFrequency;
+    return m_data->userCorrectionSat.value.frequency;
 }
 
 void remoteMelvoxDevice_t::defineUserCorrectionSat(int id, float kilohertz)
@@ -623,9 +662,7 @@ void remoteMelvoxDevice_t::defineUserCorrectionSat(int id, float kilohertz)
 
 void remoteMelvoxDevice_t::deleteUserCorrectionSat()
 {
-    QVariantMap value;
-    value.insert("defined", false);
-    m_data->command("userCorrectionSat", value);
+    m_data->command("userCorrectionSat", named("defined", write(false)));
 }
 
 void remoteMelvoxDevice_t::queryMrvAlmanacInfo()
@@ -832,24 +869,23 @@ bool remoteMelvoxDevice_t::ggaModeValid() const
 
 melvoxGgaMode_t remoteMelvoxDevice_t::ggaMode() const
 {
-    return m_data->ggaMode.value;
+    return m_data->ggaMode.value.mode;
 }
 
 ggaQuality_t remoteMelvoxDevice_t::ggaQuality() const
 {
-    return m_data->ggaQuality;
+    return m_data->ggaMode.value.quality;
 }
 
 melvoxGgaCorrectionsScaling_t remoteMelvoxDevice_t::ggaCorrectionsScaling() const
 {
-    return m_data->ggaCorrectionsScaling;
+    return m_data->ggaMode.value.scaling;
 }
 
 void remoteMelvoxDevice_t::setGgaMode(melvoxGgaMode_t mode, ggaQuality_t quality, melvoxGgaCorrectionsScaling_t scaling)
 {
-    QVariantMap value = namedPair("mode", write(mode), "quality", write(quality));
-    value.insert("scaling", write(scaling));
-    m_data->command("ggaMode", value);
+    ggaSetting_t const value = {mode, quality, scaling};
+    m_data->command("ggaMode", writeRecord(value));
 }
 
 void remoteMelvoxDevice_t::queryTalkerIdMode()
@@ -921,21 +957,21 @@ void remoteMelvoxDevice_t::queryEthernetConfig()
 
 ethernetConfig_t const* remoteMelvoxDevice_t::ethernetConfig(melvoxEthernetConfigSource_t source) const
 {
-    if (source < 0 || source >= MELVOX_NUM_ETH_CFG_SOURCES || !m_data->ethernetConfig[source].valid)
-        return 0;
-    return &m_data->ethernetConfig[source].value;
+    auto const found = m_data->ethernetConfig.find(source);
+    return found == m_data->ethernetConfig.end() ? 0 : &found->second.config;
 }
 
 bool remoteMelvoxDevice_t::ethernetConfigDhcp(melvoxEthernetConfigSource_t source) const
 {
-    return ethernetConfig(source) && m_data->ethernetConfigDhcp[source];
+    auto const found = m_data->ethernetConfig.find(source);
+    return found != m_data->ethernetConfig.end() && found->second.dhcp;
 }
 
 void remoteMelvoxDevice_t::setEthernetConfig(melvoxEthernetConfigSource_t source, ethernetConfig_t const& config)
 {
-    QVariantMap value = writeRecord(config);
+    ethernetSetting_t const setting = {false, config};
+    QVariantMap value = writeRecord(setting);
     value.insert("source", write(source));
-    value.insert("dhcp", false);
     m_data->command("ethernetConfig", value);
 }
 
@@ -961,26 +997,25 @@ bool remoteMelvoxDevice_t::webUiEnabled() const
 
 void remoteMelvoxDevice_t::setWebUiEnabled(bool enabled)
 {
-    QVariantMap value;
-    value.insert("enabled", enabled);
-    m_data->command("webControl", value);
+    m_data->command("webControl", named("enabled", write(enabled)));
 }
 
 void remoteMelvoxDevice_t::startWebUiUpload(std::string const& path)
 {
-    m_data->sentFiles.withdrawAll();
-    double const size = double(m_data->sentFiles.offer(pathFromText(path)));
-    m_data->command("startWebUiUpload", namedPair("path", write(path), "size", size));
+    // A receiver that is at one upload goes on with that.
+    if (m_data->webUiUploadState.value.state != MELVOX_WEB_UI_UPLOAD_IN_PROGRESS)
+        m_data->webUiFiles.withdrawAll();
+    m_data->command("startWebUiUpload", offered(m_data->webUiFiles, "path", "size", path));
 }
 
 melvoxWebUiUploadState_t remoteMelvoxDevice_t::webUiUploadState() const
 {
-    return m_data->webUiUploadState;
+    return m_data->webUiUploadState.value.state;
 }
 
 std::string const& remoteMelvoxDevice_t::webUiUploadDescription() const
 {
-    return m_data->webUiUploadDescription;
+    return m_data->webUiUploadState.value.description;
 }
 
 void remoteMelvoxDevice_t::cancelWebUiUpload()
@@ -1014,17 +1049,17 @@ void remoteMelvoxDevice_t::setPpsConfig(melvoxPpsConfig_t const& config)
 
 bool remoteMelvoxDevice_t::productInfoValid() const
 {
-    return m_data->productInfoValid;
+    return m_data->productInfo.valid;
 }
 
 std::string const& remoteMelvoxDevice_t::serialNumber() const
 {
-    return m_data->serialNumber;
+    return m_data->productInfo.value.serialNumber;
 }
 
 std::string const& remoteMelvoxDevice_t::modelName() const
 {
-    return m_data->modelName;
+    return m_data->productInfo.value.modelName;
 }
 
 QList<melvoxFirmwareVersion_t> const& remoteMelvoxDevice_t::firmwareVersions() const
@@ -1035,19 +1070,18 @@ QList<melvoxFirmwareVersion_t> const& remoteMelvoxDevice_t::firmwareVersions() c
 void remoteMelvoxDevice_t::startFirmwareUpdate(QList<melvoxFirmwareUpdateComponent_t> const& components,
                                                std::string const& combinedPath)
 {
-    m_data->sentFiles.withdrawAll();
+    if (!m_data->firmwareUpdating)
+        m_data->firmwareFiles.withdrawAll();
     QVariantList list;
     for (melvoxFirmwareUpdateComponent_t const& component : components)
     {
-        QVariantMap value = namedPair("fileIndex", write(component.fileIndex), "component", write(component.component));
-        value.insert("path", write(component.path));
-        if (!component.path.empty())
-            value.insert("size", double(m_data->sentFiles.offer(pathFromText(component.path))));
+        QVariantMap value = offeredIfAny(m_data->firmwareFiles, "path", "size", component.path);
+        value.insert("fileIndex", write(component.fileIndex));
+        value.insert("component", write(component.component));
         list << value;
     }
-    QVariantMap update = namedPair("components", list, "combinedPath", write(combinedPath));
-    if (!combinedPath.empty())
-        update.insert("combinedSize", double(m_data->sentFiles.offer(pathFromText(combinedPath))));
+    QVariantMap update = offeredIfAny(m_data->firmwareFiles, "combinedPath", "combinedSize", combinedPath);
+    update.insert("components", list);
     m_data->commandNow("startFirmwareUpdate", update);
 }
 
@@ -1088,15 +1122,15 @@ std::string const& remoteMelvoxDevice_t::activeProfile() const
 
 void remoteMelvoxDevice_t::dumpAsProfile(std::string const& path)
 {
-    m_data->dumps.insert(pathFromText(path));
+    m_data->dumps.insert(write(path).toString(), path);
     m_data->command("dumpProfile", write(path));
+    if (!m_data->endpoint->isOpen())
+        QTimer::singleShot(0, &m_data->listener, SLOT(lose()));
 }
 
 void remoteMelvoxDevice_t::coldRestart(bool useBuiltInAlmanac)
 {
-    QVariantMap value;
-    value.insert("useBuiltInAlmanac", useBuiltInAlmanac);
-    m_data->command("coldRestart", value);
+    m_data->command("coldRestart", named("useBuiltInAlmanac", write(useBuiltInAlmanac)));
 }
 
 void remoteMelvoxDevice_t::warmRestart()
@@ -1106,9 +1140,7 @@ void remoteMelvoxDevice_t::warmRestart()
 
 void remoteMelvoxDevice_t::reboot(unsigned int delaySeconds)
 {
-    QVariantMap value;
-    value.insert("delay", delaySeconds);
-    m_data->command("reboot", value);
+    m_data->command("reboot", named("delay", write(delaySeconds)));
 }
 
 void remoteMelvoxDevice_t::queryLteModemStatus()
@@ -1118,9 +1150,7 @@ void remoteMelvoxDevice_t::queryLteModemStatus()
 
 void remoteMelvoxDevice_t::setLteModemStatus(bool on)
 {
-    QVariantMap value;
-    value.insert("on", on);
-    m_data->command("lteModemStat", value);
+    m_data->command("lteModemStat", named("on", write(on)));
 }
 
 } // namespace brel_common_qt

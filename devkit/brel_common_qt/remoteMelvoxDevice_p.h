@@ -4,8 +4,9 @@
 #include "brel_common_qt/remoteMelvoxDevice.h"
 #include "melvoxFiles.h"
 #include "portEndpoint.h"
+#include "values.h"
 
-#include <QSet>
+#include <QHash>
 
 #include <functional>
 #include <map>
@@ -18,25 +19,39 @@ template <typename value_t> struct cached_t
 {
     cached_t() : valid(false), value() {}
 
+    void set(value_t const& answer)
+    {
+        value = answer;
+        valid = true;
+    }
+
     bool valid;
     value_t value;
 };
 
-/** Brings the port's messages to the proxy. */
-class messageTaker_t : public QObject
+/** Brings what the port tells to the proxy. */
+class portListener_t : public QObject
 {
     Q_OBJECT
 
 public:
-    typedef std::function<void(melvox_link::message_t const&)> taker_t;
+    typedef std::function<void(melvox_link::message_t const&)> taken_t;
+    typedef std::function<void()> lost_t;
 
-    explicit messageTaker_t(taker_t const& taker) : m_taker(taker) {}
+    portListener_t(taken_t const& taken, lost_t const& lost) : m_taken(taken), m_lost(lost) {}
 
-private slots:
-    void take(melvox_link::message_t const& message) { m_taker(message); }
+public slots:
+    void take(melvox_link::message_t const& message) { m_taken(message); }
+    void changeOpen(bool open)
+    {
+        if (!open)
+            lose();
+    }
+    void lose() { m_lost(); }
 
 private:
-    taker_t m_taker;
+    taken_t m_taken;
+    lost_t m_lost;
 };
 
 } // namespace melvox_kit
@@ -62,10 +77,12 @@ struct remoteMelvoxDevice_t::privateData_t
 
     bool sendFileBlock(QVariant const& wanted);
     bool takeProfileDump(QVariant const& value);
+    /** Nobody will answer them any more. */
+    void failDumps();
 
     remoteMelvoxDevice_t* device;
     melvox_kit::portEndpoint_t* endpoint;
-    melvox_kit::messageTaker_t taker;
+    melvox_kit::portListener_t listener;
 
     melvox_kit::cached_t<double> elevationMask;
     melvox_kit::cached_t<double> pdopLimit;
@@ -74,16 +91,13 @@ struct remoteMelvoxDevice_t::privateData_t
     std::map<melvoxCorrectionType_t, unsigned int> correctionMaxAge;
     melvox_kit::cached_t<melvoxNtripPPP_t> ntripPPP;
 
-    measUse_t measUse;
+    melvox_kit::cached_t<measUse_t> measUse;
     melvox_kit::cached_t<melvoxDynamicConfig_t> dynamicConfig;
     melvox_kit::cached_t<melvoxExtendedNavInfo_t> extendedNavInfo;
 
-    melvox_kit::cached_t<melvoxAntennaAlignmentMode_t> antennaAlignmentMode;
-    float antennaAlignmentUserAngle;
-    bool antennaInfoValid;
-    melvoxAntennaInfo_t antennaInfo[MELVOX_NUM_ANTENNAS];
-    bool antennaHeightValid;
-    melvoxAntennaHeight_t antennaHeight[MELVOX_NUM_ANTENNAS];
+    melvox_kit::cached_t<melvox_kit::antennaAlignment_t> antennaAlignment;
+    melvox_kit::cached_t<melvox_kit::antennaPair_t<melvoxAntennaInfo_t>> antennaInfo;
+    melvox_kit::cached_t<melvox_kit::antennaPair_t<melvoxAntennaHeight_t>> antennaHeight;
     melvox_kit::cached_t<melvoxAntennaRemote_t> antennaRemote;
     melvox_kit::cached_t<melvoxAntennaDualMode_t> antennaDualMode;
     QStringList antennaList;
@@ -91,13 +105,10 @@ struct remoteMelvoxDevice_t::privateData_t
     melvox_kit::cached_t<melvoxCorrectionSelection_t> correctionSelection;
     melvox_kit::cached_t<melvoxNetPriority_t> netPriority;
     melvox_kit::cached_t<melvoxRtgUseMode_t> rtgUseMode;
-    melvoxCorrectionSatMap_t correctionSats;
-    melvoxCorrectionSatStatsMap_t correctionSatStats;
-    melvox_kit::cached_t<unsigned int> correctionSatInUse;
-    melvox_kit::cached_t<bool> correctionSatAuto;
-    melvox_kit::cached_t<bool> userCorrectionSatDefined;
-    unsigned int userCorrectionSatId;
-    float userCorrectionSatFrequency;
+    melvox_kit::cached_t<melvoxCorrectionSatMap_t> correctionSats;
+    melvox_kit::cached_t<melvox_kit::correctionSatStats_t> correctionSatStats;
+    melvox_kit::cached_t<melvox_kit::correctionSatSelection_t> correctionSatSelection;
+    melvox_kit::cached_t<melvox_kit::userCorrectionSat_t> userCorrectionSat;
     melvox_kit::cached_t<melvoxMrvAlmanacInfo_t> mrvAlmanacInfo;
     melvox_kit::cached_t<bool> newStarfireAlmReady;
     melvox_kit::cached_t<melvoxStarfireAlmSwitchPolicy_t> starfireAlmSwitchPolicy;
@@ -110,29 +121,25 @@ struct remoteMelvoxDevice_t::privateData_t
     melvox_kit::cached_t<melvoxPort_t> activePort;
     std::map<melvoxPort_t, melvoxPortOutputs_t> outputs;
     std::map<melvoxPort_t, PortTxRxInfo> portTxRxInfo;
-    melvox_kit::cached_t<melvoxGgaMode_t> ggaMode;
-    ggaQuality_t ggaQuality;
-    melvoxGgaCorrectionsScaling_t ggaCorrectionsScaling;
+    melvox_kit::cached_t<melvox_kit::ggaSetting_t> ggaMode;
     melvox_kit::cached_t<melvoxTalkerIdMode_t> talkerIdMode;
     bool showDtmWarning;
     melvox_kit::cached_t<melvoxUsbMode_t> usbMode;
 
-    melvox_kit::cached_t<ethernetConfig_t> ethernetConfig[MELVOX_NUM_ETH_CFG_SOURCES];
-    bool ethernetConfigDhcp[MELVOX_NUM_ETH_CFG_SOURCES];
+    std::map<melvoxEthernetConfigSource_t, melvox_kit::ethernetSetting_t> ethernetConfig;
     melvox_kit::cached_t<bool> webUiEnabled;
-    melvoxWebUiUploadState_t webUiUploadState;
-    std::string webUiUploadDescription;
+    melvox_kit::cached_t<melvox_kit::webUiUploadState_t> webUiUploadState;
 
     melvox_kit::cached_t<melvoxPpsConfig_t> ppsConfig;
 
-    bool productInfoValid;
-    std::string serialNumber;
-    std::string modelName;
+    melvox_kit::cached_t<melvox_kit::productInfo_t> productInfo;
     QList<melvoxFirmwareVersion_t> firmwareVersions;
     melvox_kit::cached_t<std::string> activeProfile;
 
-    melvox_kit::sentFiles_t sentFiles;
-    QSet<QString> dumps; //!< paths that dumps are under way for
+    bool firmwareUpdating;
+    melvox_kit::sentFiles_t firmwareFiles;
+    melvox_kit::sentFiles_t webUiFiles;
+    QHash<QString, std::string> dumps; //!< under way: the path as the receiver was told it, and as the page named it
 };
 
 } // namespace brel_common_qt

@@ -6,6 +6,9 @@
 namespace melvox_kit
 {
 
+namespace
+{
+
 bool readNumber(QVariant const& value, double lowest, double highest, double& number)
 {
     switch (value.userType())
@@ -27,20 +30,20 @@ bool readNumber(QVariant const& value, double lowest, double highest, double& nu
     return true;
 }
 
-namespace
-{
-
 // Streams know but one kind of number, so a whole number may come as a floating one.
-template <typename whole_t> bool readWhole(QVariant const& value, whole_t& number)
+template <typename whole_t> bool readWhole(QVariant const& value, double lowest, double highest, whole_t& number)
 {
     double read = 0;
-    if (!readNumber(value, double(std::numeric_limits<whole_t>::min()), double(std::numeric_limits<whole_t>::max()),
-                    read))
-        return false;
-    if (std::floor(read) != read)
+    if (!readNumber(value, lowest, highest, read) || std::floor(read) != read)
         return false;
     number = whole_t(read);
     return true;
+}
+
+template <typename whole_t> bool readWhole(QVariant const& value, whole_t& number)
+{
+    return readWhole(value, double(std::numeric_limits<whole_t>::min()), double(std::numeric_limits<whole_t>::max()),
+                     number);
 }
 
 } // namespace
@@ -91,9 +94,37 @@ bool read(QVariant const& value, std::string& text)
 {
     if (value.userType() != QMetaType::QString)
         return false;
-    QByteArray const bytes = value.toString().toUtf8();
-    text.assign(bytes.constData(), std::size_t(bytes.size()));
+    text = textFrom(value.toString());
     return true;
+}
+
+bool read(QVariant const& value, QString& text)
+{
+    if (value.userType() != QMetaType::QString)
+        return false;
+    text = value.toString();
+    return true;
+}
+
+bool read(QVariant const& value, QByteArray& bytes)
+{
+    if (value.userType() != QMetaType::QByteArray)
+        return false;
+    bytes = value.toByteArray();
+    return true;
+}
+
+bool read(QVariant const& value, qint64& number)
+{
+    double const limit = 9007199254740992.0;
+    return readWhole(value, -limit, limit, number);
+}
+
+// QString's own way there is not UTF-8 on Qt 4.
+std::string textFrom(QString const& text)
+{
+    QByteArray const bytes = text.toUtf8();
+    return std::string(bytes.constData(), std::size_t(bytes.size()));
 }
 
 QVariant write(bool flag)

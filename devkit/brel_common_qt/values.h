@@ -5,6 +5,8 @@
 
 #include <QVariant>
 
+#include <limits>
+#include <map>
 #include <type_traits>
 
 /** How each record becomes a message value and back.
@@ -16,8 +18,6 @@ namespace melvox_kit
 
 using namespace brel_common_qt;
 
-bool readNumber(QVariant const& value, double lowest, double highest, double& number);
-
 bool read(QVariant const& value, bool& flag);
 bool read(QVariant const& value, double& number);
 bool read(QVariant const& value, float& number);
@@ -26,6 +26,12 @@ bool read(QVariant const& value, unsigned int& number);
 bool read(QVariant const& value, unsigned short& number);
 bool read(QVariant const& value, unsigned char& number);
 bool read(QVariant const& value, std::string& text);
+bool read(QVariant const& value, QString& text);
+bool read(QVariant const& value, QByteArray& bytes);
+/** Positions in files: whole numbers that a floating number holds exactly. */
+bool read(QVariant const& value, qint64& number);
+
+std::string textFrom(QString const& text);
 
 QVariant write(bool flag);
 QVariant write(double number);
@@ -34,8 +40,87 @@ QVariant write(int number);
 QVariant write(unsigned int number);
 QVariant write(std::string const& text);
 
-class fieldReader_t;
-class fieldWriter_t;
+// Records for the groups of more than one value that the declarations have no record for.
+
+struct correctionEnabled_t
+{
+    melvoxCorrectionType_t type;
+    bool enabled;
+};
+
+struct correctionMaxAge_t
+{
+    melvoxCorrectionType_t type;
+    unsigned int seconds;
+};
+
+struct antennaAlignment_t
+{
+    melvoxAntennaAlignmentMode_t mode;
+    float angle;
+};
+
+/** Both antennas' records. */
+template <typename record_t> struct antennaPair_t
+{
+    record_t of[MELVOX_NUM_ANTENNAS];
+};
+
+struct correctionSatStats_t
+{
+    unsigned int inUse;
+    melvoxCorrectionSatStatsMap_t sats;
+};
+
+struct correctionSatSelection_t
+{
+    bool automatic;
+    int id;
+};
+
+struct userCorrectionSat_t
+{
+    bool defined;
+    unsigned int id;
+    float frequency;
+};
+
+struct ggaSetting_t
+{
+    melvoxGgaMode_t mode;
+    ggaQuality_t quality;
+    melvoxGgaCorrectionsScaling_t scaling;
+};
+
+struct ethernetSetting_t
+{
+    bool dhcp;
+    ethernetConfig_t config;
+};
+
+struct productInfo_t
+{
+    std::string serialNumber;
+    std::string modelName;
+};
+
+struct webUiUploadState_t
+{
+    melvoxWebUiUploadState_t state;
+    std::string description;
+};
+
+template <typename list_t> void fields(list_t& f, correctionEnabled_t& r)
+{
+    f("type", r.type);
+    f("enabled", r.enabled);
+}
+
+template <typename list_t> void fields(list_t& f, correctionMaxAge_t& r)
+{
+    f("type", r.type);
+    f("seconds", r.seconds);
+}
 
 template <typename list_t> void fields(list_t& f, melvoxNtripPPP_t& r)
 {
@@ -78,6 +163,12 @@ template <typename list_t> void fields(list_t& f, melvoxExtendedNavInfo_t& r)
     f("velocityUp", r.velocityUp);
 }
 
+template <typename list_t> void fields(list_t& f, antennaAlignment_t& r)
+{
+    f("mode", r.mode);
+    f("angle", r.angle);
+}
+
 template <typename list_t> void fields(list_t& f, melvoxAntennaInfo_t& r)
 {
     f("name", r.name);
@@ -112,6 +203,12 @@ template <typename list_t> void fields(list_t& f, melvoxCorrectionSatStats_t& r)
     f("frequencyOffset", r.frequencyOffset);
 }
 
+template <typename list_t> void fields(list_t& f, correctionSatStats_t& r)
+{
+    f("inUse", r.inUse);
+    f("sats", r.sats);
+}
+
 template <typename list_t> void fields(list_t& f, melvoxCorrectionSat_t& r)
 {
     f("id", r.id);
@@ -122,6 +219,19 @@ template <typename list_t> void fields(list_t& f, melvoxCorrectionSat_t& r)
     f("flagU", r.flagU);
     f("flagA", r.flagA);
     f("flagC", r.flagC);
+}
+
+template <typename list_t> void fields(list_t& f, correctionSatSelection_t& r)
+{
+    f("auto", r.automatic);
+    f("id", r.id);
+}
+
+template <typename list_t> void fields(list_t& f, userCorrectionSat_t& r)
+{
+    f("defined", r.defined);
+    f("id", r.id);
+    f("frequency", r.frequency);
 }
 
 template <typename list_t> void fields(list_t& f, melvoxStarfireAlmSwitchPolicy_t& r)
@@ -166,6 +276,13 @@ template <typename list_t> void fields(list_t& f, PortTxRxInfo& r)
     f("rxUsage", r.rxUsage);
 }
 
+template <typename list_t> void fields(list_t& f, ggaSetting_t& r)
+{
+    f("mode", r.mode);
+    f("quality", r.quality);
+    f("scaling", r.scaling);
+}
+
 template <typename list_t> void fields(list_t& f, melvoxSerialPortConfig_t& r)
 {
     f("baud", r.baud);
@@ -192,6 +309,19 @@ template <typename list_t> void fields(list_t& f, ethernetConfig_t& r)
     f("dns2", r.dns2);
 }
 
+// One flat map.
+template <typename list_t> void fields(list_t& f, ethernetSetting_t& r)
+{
+    f("dhcp", r.dhcp);
+    fields(f, r.config);
+}
+
+template <typename list_t> void fields(list_t& f, webUiUploadState_t& r)
+{
+    f("state", r.state);
+    f("description", r.description);
+}
+
 template <typename list_t> void fields(list_t& f, melvoxPpsConfig_t& r)
 {
     f("polarity", r.polarity);
@@ -199,6 +329,12 @@ template <typename list_t> void fields(list_t& f, melvoxPpsConfig_t& r)
     f("interval", r.interval);
     f("signalDelay", r.signalDelay);
     f("chipDelay", r.chipDelay);
+}
+
+template <typename list_t> void fields(list_t& f, productInfo_t& r)
+{
+    f("serialNumber", r.serialNumber);
+    f("modelName", r.modelName);
 }
 
 template <typename list_t> void fields(list_t& f, melvoxFirmwareUpdateProgress_t& r)
@@ -222,6 +358,10 @@ template <typename enum_t> typename std::enable_if<std::is_enum<enum_t>::value, 
 {
     return write(int(value));
 }
+
+template <typename record_t> bool read(QVariant const& value, QList<record_t>& records);
+template <typename record_t> bool read(QVariant const& value, antennaPair_t<record_t>& pair);
+template <typename record_t> bool read(QVariant const& value, std::map<unsigned short, record_t>& byId);
 
 /** Takes fields out of a map. */
 class fieldReader_t
@@ -282,11 +422,50 @@ template <typename record_t> bool read(QVariant const& value, QList<record_t>& r
     return true;
 }
 
-/** One named field of a map, beside those of a record. */
-template <typename field_t> bool readField(QVariant const& value, char const* name, field_t& field)
+template <typename record_t> bool read(QVariant const& value, antennaPair_t<record_t>& pair)
+{
+    QList<record_t> records;
+    if (!read(value, records) || records.size() != MELVOX_NUM_ANTENNAS)
+        return false;
+    for (int i = 0; i < MELVOX_NUM_ANTENNAS; ++i)
+        pair.of[i] = records.at(i);
+    return true;
+}
+
+/** A list of records as a map by their ids. */
+template <typename record_t> bool read(QVariant const& value, std::map<unsigned short, record_t>& byId)
+{
+    QList<record_t> records;
+    if (!read(value, records))
+        return false;
+    std::map<unsigned short, record_t> found;
+    for (int i = 0; i < records.size(); ++i)
+    {
+        if (records.at(i).id > std::numeric_limits<unsigned short>::max())
+            return false;
+        found[static_cast<unsigned short>(records.at(i).id)] = records.at(i);
+    }
+    byId.swap(found);
+    return true;
+}
+
+inline void readEach(fieldReader_t&)
+{
+}
+
+template <typename field_t, typename... more_t>
+void readEach(fieldReader_t& reader, char const* name, field_t& field, more_t&&... more)
+{
+    reader(name, field);
+    readEach(reader, more...);
+}
+
+/** Fields of a map that make no record: readFields(value, "name", name, "modified", modified). When it fails, some may
+ *  have been read. */
+template <typename... field_t> bool readFields(QVariant const& value, field_t&&... fields)
 {
     fieldReader_t reader(value);
-    reader(name, field);
+    readEach(reader, fields...);
     return reader.good();
 }
 

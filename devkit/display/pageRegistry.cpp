@@ -1,9 +1,16 @@
 #include "display/pageRegistry.h"
 
 #include "display/displaySettingsPage.h"
+#include "melvox_ui/melvoxUiAntennaIdentification.h"
+#include "melvox_ui/melvoxUiCorrectionsReceiver.h"
+#include "melvox_ui/melvoxUiCustomSatDialog.h"
+#include "melvox_ui/melvoxUiDifferentialConfiguration.h"
+#include "melvox_ui/melvoxUiEthernetConfiguration.h"
 #include "melvox_ui/melvoxUiExtendedNavInfo.h"
 #include "melvox_ui/melvoxUiFirmwareUpdate.h"
 #include "melvox_ui/melvoxUiNavigationMode.h"
+#include "melvox_ui/melvoxUiOutputMessages.h"
+#include "melvox_ui/melvoxUiPortConfiguration.h"
 #include "melvox_ui/melvoxUiPpsConfiguration.h"
 #include "melvox_ui/melvoxUiProfileDumper.h"
 #include "melvox_ui/melvoxUiProfileLoader.h"
@@ -14,6 +21,7 @@
 #include "melvox_ui/melvoxUiSolutionControl.h"
 #include "melvox_ui/melvoxUiVHDInfo.h"
 #include "melvox_ui/melvoxUiWebInterface.h"
+#include "melvox_ui/melvoxUiWiFiPasskeyDialog.h"
 
 #include <QCoreApplication>
 
@@ -32,9 +40,17 @@ template <typename page_t> QWidget* page(remoteMelvoxDevice_t* device)
 }
 
 /** For dialogs that no page opens. */
-template <typename dialog_t> [[maybe_unused]] QWidget* dialog(remoteMelvoxDevice_t* device)
+template <typename dialog_t> QWidget* dialog(remoteMelvoxDevice_t* device)
 {
     return new dialog_t(device, nullptr);
+}
+
+/** Shown for its looks: this display has no wireless interface to give the key to. */
+QWidget* passkeyDialog(remoteMelvoxDevice_t*)
+{
+    melvoxUiWiFiPasskeyDialog_t* dialog = new melvoxUiWiFiPasskeyDialog_t(nullptr);
+    QObject::connect(dialog, &QDialog::finished, dialog, &melvoxUiWiFiPasskeyDialog_t::clearPasskey);
+    return dialog;
 }
 
 template <typename page_t> QWidget* ownPage(remoteMelvoxDevice_t*)
@@ -71,6 +87,14 @@ pageRegistry_t const& allPages()
         {"extendedNavInfo", QT_TRANSLATE_NOOP("pages", "Extended Navigation Info"), s::POSITIONING, page<melvoxUiExtendedNavInfo_t>},
         {"vhdInfo", QT_TRANSLATE_NOOP("pages", "VHD Info"), s::POSITIONING, page<melvoxUiVHDInfo_t>},
         {"restart", QT_TRANSLATE_NOOP("pages", "Restart"), s::POSITIONING, page<melvoxUiRestart_t>},
+        {"correctionsReceiver", QT_TRANSLATE_NOOP("pages", "Corrections Receiver"), s::CORRECTIONS, page<melvoxUiCorrectionsReceiver_t>},
+        {"customSat", QT_TRANSLATE_NOOP("pages", "Custom Satellite"), s::CORRECTIONS, dialog<melvoxUiCustomSatDialog_t>},
+        {"differentialConfiguration", QT_TRANSLATE_NOOP("pages", "Differential Configuration"), s::CORRECTIONS, page<melvoxUiDifferentialConfiguration_t>},
+        {"antennaIdentification", QT_TRANSLATE_NOOP("pages", "Antenna Identification"), s::CORRECTIONS, page<melvoxUiAntennaIdentification_t>},
+        {"outputMessages", QT_TRANSLATE_NOOP("pages", "Output Messages"), s::PORTS, page<melvoxUiOutputMessages_t>},
+        {"portConfiguration", QT_TRANSLATE_NOOP("pages", "Port Configuration"), s::PORTS, page<melvoxUiPortConfiguration_t>},
+        {"ethernetConfiguration", QT_TRANSLATE_NOOP("pages", "Ethernet Configuration"), s::PORTS, page<melvoxUiEthernetConfiguration_t>},
+        {"wiFiPasskey", QT_TRANSLATE_NOOP("pages", "WiFi Passkey"), s::PORTS, passkeyDialog},
         {"webInterface", QT_TRANSLATE_NOOP("pages", "Web Interface"), s::PORTS, page<melvoxUiWebInterface_t>},
         {"firmwareUpdate", QT_TRANSLATE_NOOP("pages", "Firmware Update"), s::FIRMWARE, page<melvoxUiFirmwareUpdate_t>},
         {"settingsProfiles", QT_TRANSLATE_NOOP("pages", "Settings Profiles"), s::FIRMWARE, page<melvoxUiSettingsProfiles_t>},

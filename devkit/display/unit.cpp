@@ -56,6 +56,8 @@ melvox_link::link_t* unit_t::createSimulated()
     m_pair = std::make_unique<melvox_link::localLinkPair_t>();
     m_pair->setLatency(LATENCY_MS);
     m_receiver = std::make_unique<melvox_receiver::receiver_t>(m_pair->receiverEnd(), m_clock.get());
+    m_receiver->setSituation("solutionReports", true);
+    m_receiver->setSituation("headingReports", true);
     return m_pair->displayEnd();
 }
 

@@ -80,6 +80,12 @@ void faultFilter_t::setLine(line_t const& line)
         m_link->setLine(line);
 }
 
+void faultFilter_t::setCut(bool cut)
+{
+    if (m_link)
+        m_link->setCut(cut);
+}
+
 void faultFilter_t::send(message_t const& message)
 {
     if (isOpen())

@@ -62,6 +62,7 @@ public:
     void send(melvox_link::message_t const& message) override;
     bool line(melvox_link::line_t& line) const override;
     void setLine(melvox_link::line_t const& line) override;
+    void setCut(bool cut) override;
 
     /** A group may have several faults, and those set for every group (an empty group name) come on top. Replaces the
      *  same fault of the same group and direction. The probability is held within 0 and 1; 0 takes the fault away. */

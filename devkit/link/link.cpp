@@ -22,6 +22,10 @@ void link_t::setLine(line_t const&)
 {
 }
 
+void link_t::setCut(bool)
+{
+}
+
 QString lineText(line_t const& line)
 {
     return QString("%1 %2%3%4").arg(line.baud).arg(line.dataBits).arg(QChar(line.parity)).arg(line.stopBits);

@@ -44,6 +44,10 @@ public:
     /** Takes effect once what was sent before has gone out. Nothing happens on a link that is not serial. */
     virtual void setLine(melvox_link::line_t const& line);
 
+    /** Cuts the way, as when a cable is pulled, or joins it again. What is under way is lost. Ways that cannot be joined
+     *  from this side are found again by the other one. Nothing happens on a link that cannot be cut. */
+    virtual void setCut(bool cut);
+
 signals:
     void received(melvox_link::message_t const& message);
     void openChanged(bool open);

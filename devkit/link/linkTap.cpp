@@ -39,6 +39,12 @@ void linkTap_t::setLine(line_t const& line)
         m_link->setLine(line);
 }
 
+void linkTap_t::setCut(bool cut)
+{
+    if (m_link)
+        m_link->setCut(cut);
+}
+
 void linkTap_t::send(message_t const& message)
 {
     if (!isOpen())

@@ -23,6 +23,7 @@ public:
     void send(melvox_link::message_t const& message) override;
     bool line(melvox_link::line_t& line) const override;
     void setLine(melvox_link::line_t const& line) override;
+    void setCut(bool cut) override;
 
 signals:
     /** Comes before the message is handed on. */

@@ -39,6 +39,11 @@ void localLink_t::setLine(line_t const& line)
     m_line = line;
 }
 
+void localLink_t::setCut(bool cut)
+{
+    setOpen(!cut);
+}
+
 void localLink_t::makeSerial(line_t const& line)
 {
     m_serial = true;

@@ -26,6 +26,8 @@ public:
     bool line(melvox_link::line_t& line) const override;
     void setLine(melvox_link::line_t const& line) override;
 
+    void setCut(bool cut) override;
+
     /** Makes this end one of a serial line; without it the link is of no such kind. */
     void makeSerial(melvox_link::line_t const& line);
 

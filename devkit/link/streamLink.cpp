@@ -82,6 +82,12 @@ void streamLink_t::send(message_t const& message)
         m_device->write(toLine(message));
 }
 
+void streamLink_t::setCut(bool cut)
+{
+    if (cut && m_device)
+        m_device->close();
+}
+
 void streamLink_t::read()
 {
     QPointer<streamLink_t> const self(this);

@@ -25,6 +25,9 @@ public:
     QString description() const override;
     void send(melvox_link::message_t const& message) override;
 
+    /** Closes the device; a display opens its way anew. */
+    void setCut(bool cut) override;
+
     int ignoredLines() const;
 
     static int const LONGEST_LINE = 1024 * 1024;    //!< bytes; longer ones are passed over

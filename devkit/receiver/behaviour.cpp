@@ -24,6 +24,19 @@ behaviour_t::answer_t behaviour_t::situation(QString const&, QVariant const&)
     return NOT_MINE;
 }
 
+QVariant behaviour_t::answer(QString const&, qint64)
+{
+    return QVariant();
+}
+
+void behaviour_t::passed(link_t*, message_t const&)
+{
+}
+
+void behaviour_t::portInput(unsigned int, QByteArray const&)
+{
+}
+
 void behaviour_t::settingChanged(QString const&)
 {
 }

@@ -28,6 +28,16 @@ public:
     /** Something is another way around the receiver; each behaviour documents the names that are its business. */
     virtual answer_t situation(QString const& name, QVariant const& value);
 
+    /** What this behaviour knows at a time of the simulated clock and others may ask it by name, such as
+     *  "extendedNavInfo"; invalid: nothing of that name. */
+    virtual QVariant answer(QString const& name, qint64 at);
+
+    /** A message has come from that display, or goes there. */
+    virtual void passed(link_t* link, message_t const& message);
+
+    /** Whoever listens at one of the receiver's ports has sent something. */
+    virtual void portInput(unsigned int port, QByteArray const& bytes);
+
     /** A setting has changed, from whatever side, and its report is out. */
     virtual void settingChanged(QString const& group);
 

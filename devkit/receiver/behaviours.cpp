@@ -5,8 +5,10 @@
 #include "receiver/firmware.h"
 #include "receiver/modem.h"
 #include "receiver/navigation.h"
+#include "receiver/network.h"
 #include "receiver/outputs.h"
 #include "receiver/portLock.h"
+#include "receiver/portRules.h"
 #include "receiver/profiles.h"
 #include "receiver/serialPorts.h"
 #include "receiver/web.h"
@@ -26,9 +28,9 @@ template <typename made_t> std::unique_ptr<behaviour_t> make(receiver_t& receive
 
 /** A new behaviour is a line here. They are asked in this order. */
 maker_t const MAKERS[] = {
-    &make<navigation_t>, &make<antennas_t>, &make<corrections_t>, &make<outputs_t>,
-    &make<portLock_t>,   &make<firmware_t>, &make<profiles_t>,    &make<web_t>,
-    &make<modem_t>,      &make<iridium_t>,  &make<serialPorts_t>,
+    &make<navigation_t>,  &make<antennas_t>,  &make<corrections_t>, &make<outputs_t>, &make<portLock_t>,
+    &make<firmware_t>,    &make<profiles_t>,  &make<web_t>,         &make<modem_t>,   &make<iridium_t>,
+    &make<serialPorts_t>, &make<portRules_t>, &make<network_t>,
 };
 
 } // namespace

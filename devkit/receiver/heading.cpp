@@ -31,9 +31,13 @@ QVariant heading_t::info(settings_t const& settings, solutionMode_t mode, qint64
         return QVariant();
     double const angle = alignmentAngle(settings);
     double const rms = HEADING_RMS[mode];
+    // Not -angle, which would be a negative zero along the axis.
+    double const attitude = 0.0 - angle;
     double const raw = std::fmod(vehicleMotion(at).course + angle + noise(rms) + 360.0, 360.0);
-    return QVariantMap{
-        {"rawHeading", raw}, {"attitude", -angle}, {"baseline", BASELINE + noise(BASELINE_NOISE)}, {"headingRms", rms}};
+    return QVariantMap{{"rawHeading", raw},
+                       {"attitude", attitude},
+                       {"baseline", BASELINE + noise(BASELINE_NOISE)},
+                       {"headingRms", rms}};
 }
 
 double heading_t::noise(double deviation)

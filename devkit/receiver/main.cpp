@@ -1,6 +1,7 @@
 #include "link/ptyPort.h"
 #include "link/serialLink.h"
 #include "link/tcpServer.h"
+#include "receiver/outputPlace.h"
 #include "receiver/receiver.h"
 #include "receiver/stopSignals.h"
 
@@ -51,6 +52,7 @@ public:
     bool listenTcp(QString const& text, QString& error);
     bool openPty(QString& error);
     bool openSerial(QString const& device, QString& error);
+    bool openOutput(QString const& text, QString& error);
 
 private:
     unsigned int nextSerialPort() { return FIRST_SERIAL_PORT + m_serialPorts++ % NUM_SERIAL_PORTS; }
@@ -59,6 +61,7 @@ private:
     simClock_t m_clock;
     std::vector<std::unique_ptr<QObject>> m_places;
     receiver_t m_receiver;
+    std::vector<std::unique_ptr<outputPlace_t>> m_outputs;
     unsigned int m_serialPorts;
     unsigned int m_displays;
 };
@@ -67,6 +70,7 @@ void program_t::report()
 {
     m_receiver.setSituation("solutionReports", true);
     m_receiver.setSituation("headingReports", true);
+    m_receiver.setSituation("outputs", true);
 }
 
 bool program_t::listenTcp(QString const& text, QString& error)
@@ -131,6 +135,17 @@ bool program_t::openSerial(QString const& device, QString& error)
     return true;
 }
 
+bool program_t::openOutput(QString const& text, QString& error)
+{
+    std::unique_ptr<outputPlace_t> place = makeOutputPlace(m_receiver, text, error);
+    if (!place)
+        return false;
+    QTextStream(stdout) << "putting out " << text.section('=', 0, 0) << " on " << place->description() << '\n';
+    m_receiver.setSituation("outputs", true);
+    m_outputs.push_back(std::move(place));
+    return true;
+}
+
 bool openPlaces(program_t& program, QCommandLineParser const& parser, QString& error)
 {
     for (QString const& text : parser.values("tcp"))
@@ -146,6 +161,11 @@ bool openPlaces(program_t& program, QCommandLineParser const& parser, QString& e
     for (QString const& device : parser.values("serial"))
     {
         if (!program.openSerial(device, error))
+            return false;
+    }
+    for (QString const& text : parser.values("output"))
+    {
+        if (!program.openOutput(text, error))
             return false;
     }
     return true;
@@ -169,7 +189,11 @@ int main(int argc, char** argv)
     parser.addOption({"tcp", tr("Listen on a TCP port of this machine, 0: any that is free."), "[address:]port"});
     parser.addOption({"pty", tr("Make a pseudo-terminal, a serial line without wires.")});
     parser.addOption({"serial", tr("Use a serial device."), "device"});
-    parser.addOption({"quiet", tr("Tell no solution and no heading unless asked.")});
+    parser.addOption({"output",
+                      tr("Let other programs read what the receiver puts out on a port, COM1 to ETH8, over TCP or a "
+                         "pseudo-terminal."),
+                      "port=tcp:[address:]port|port=pty"});
+    parser.addOption({"quiet", tr("Tell nothing unless asked, and put nothing out unless there is an --output.")});
 
     if (!parser.parse(QCoreApplication::arguments()))
     {

@@ -76,6 +76,16 @@ behaviour_t::answer_t navigation_t::situation(QString const& name, QVariant cons
     return DONE;
 }
 
+QVariant navigation_t::answer(QString const& name, qint64 at)
+{
+    settings_t const& settings = receiver.settings();
+    if (name == "solutionMode")
+        return int(m_solution.mode(settings, at));
+    if (name == "extendedNavInfo")
+        return m_solution.info(settings, at);
+    return name == "vhdInfo" ? m_heading.info(settings, m_solution.mode(settings, at), at) : QVariant();
+}
+
 behaviour_t::answer_t navigation_t::setReports(bool& reports, QVariant const& value)
 {
     if (value.userType() != QMetaType::Bool)

@@ -137,8 +137,39 @@ void receiver_t::ignore(QString const& why, message_t const& message)
     emit ignored(why, text);
 }
 
+void receiver_t::takeIn(unsigned int port, QByteArray const& bytes)
+{
+    for (auto const& behaviour : m_behaviours)
+        behaviour->portInput(port, bytes);
+}
+
+void receiver_t::putOut(unsigned int port, QByteArray const& bytes)
+{
+    emit portOutput(port, bytes);
+}
+
+QVariant receiver_t::ask(QString const& name, qint64 at)
+{
+    for (auto const& behaviour : m_behaviours)
+    {
+        QVariant const answer = behaviour->answer(name, at);
+        if (answer.isValid())
+            return answer;
+    }
+    return QVariant();
+}
+
+void receiver_t::send(link_t* to, message_t const& message)
+{
+    for (auto const& behaviour : m_behaviours)
+        behaviour->passed(to, message);
+    to->send(message);
+}
+
 void receiver_t::take(link_t* from, message_t const& message)
 {
+    for (auto const& behaviour : m_behaviours)
+        behaviour->passed(from, message);
     if (message.kind == message_t::REQUEST)
         takeRequest(from, message);
     else if (message.kind == message_t::COMMAND)
@@ -304,7 +335,7 @@ void receiver_t::report(QString const& group, QVariant const& value)
 
 void receiver_t::report(link_t* to, QString const& group, QVariant const& value)
 {
-    to->send(message_t(message_t::REPORT, group, value));
+    send(to, message_t(message_t::REPORT, group, value));
 }
 
 void receiver_t::event(QString const& group, QVariant const& value)
@@ -315,7 +346,7 @@ void receiver_t::event(QString const& group, QVariant const& value)
 
 void receiver_t::event(link_t* to, QString const& group, QVariant const& value)
 {
-    to->send(message_t(message_t::EVENT, group, value));
+    send(to, message_t(message_t::EVENT, group, value));
 }
 
 void receiver_t::setLock(link_t* holder, int state)

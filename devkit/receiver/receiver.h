@@ -60,6 +60,9 @@ public:
     /** How many messages made no sense. */
     int ignoredCount() const;
 
+    /** What whoever listens at a port sends; it counts as the port's traffic and has no other effect. */
+    void takeIn(unsigned int port, QByteArray const& bytes);
+
     // For behaviours.
 
     /** Stores a value that needs no rule and reports it to all displays if it is another one. */
@@ -74,6 +77,10 @@ public:
     void event(QString const& group, QVariant const& value = QVariant());
     void event(link_t* to, QString const& group, QVariant const& value = QVariant());
     void wantTicks(behaviour_t* who, bool wanted);
+    void putOut(unsigned int port, QByteArray const& bytes);
+
+    /** What one of the behaviours knows; see behaviour_t::answer(). Invalid: none does. */
+    QVariant ask(QString const& name, qint64 at);
 
     /** Who has the receiver for himself, and how: 0 for nobody, 1 for the framework, 2 for a plug-in. */
     void setLock(link_t* holder, int state);
@@ -86,6 +93,9 @@ signals:
     /** A message that made no sense: why, and the message as text, cut to a length that one can read. */
     void ignored(QString const& why, QString const& text);
 
+    /** The receiver puts bytes out on one of its ports: whole sentences or frames, in their order. */
+    void portOutput(unsigned int port, QByteArray const& bytes);
+
 private:
     struct display_t
     {
@@ -94,6 +104,7 @@ private:
     };
 
     void take(link_t* from, message_t const& message);
+    void send(link_t* to, message_t const& message);
     void takeRequest(link_t* from, message_t const& message);
     void takeCommand(link_t* from, message_t const& message);
     outcome_t takeSetting(setting_t const& setting, QVariant const& value, QVariant& taken, bool& changed,

@@ -15,8 +15,19 @@ struct motion_t
     double up;
 };
 
+/** Where it is: degrees on WGS-84, metres above the ellipsoid. */
+struct place_t
+{
+    double latitude;
+    double longitude;
+    double height;
+};
+
 /** It drives slowly in a wide circle over ground that is nearly flat. The time is that of the simulated clock. */
 motion_t vehicleMotion(qint64 at);
+
+/** The way that the motion makes. */
+place_t vehiclePlace(qint64 at);
 
 } // namespace melvox_receiver
 

@@ -34,7 +34,8 @@ typedef std::pair<std::string, std::string> melvoxFirmwareVersion_t;
  *
  *  The host creates it before any page and keeps it longer than every page. For each group X of settings:
  *  - queryX() asks the receiver. It returns at once, also when nobody answers.
- *  - xValid() is true once an answer has come, and stays true.
+ *  - xValid() is true once an answer has come, and stays true, unless the answer is that there is nothing to tell
+ *    (extendedNavInfoValid(), correctionSatInUseValid()).
  *  - x() reads the last answer and means something only while xValid(). Getters by key return false, or null, while
  *    nothing is known for the key; an output argument is then left as it was.
  *  - setX() sends new values and does not wait. What the receiver made of them comes back as xUpdated().

@@ -5,6 +5,7 @@
 #include "brel_common_qt_gui/dialogPage.h"
 #include "melvox_ui/melvoxUiProfileDumper.h"
 #include "melvox_ui/melvoxUiProfileLoader.h"
+#include "support/asciiText.h"
 #include "support/pageSupport.h"
 #include "support/text8.h"
 
@@ -209,7 +210,7 @@ void melvoxUiSettingsProfiles_t::deleteProfile()
 
 void melvoxUiSettingsProfiles_t::saveNew()
 {
-    m_data->device->saveAsProfile(toAscii(m_data->ui.profileNameLineEdit->text()));
+    m_data->device->saveAsProfile(asciiText(m_data->ui.profileNameLineEdit->text()));
     QTimer::singleShot(QUERY_AFTER_SAVING, this, SLOT(query()));
 }
 

@@ -9,13 +9,18 @@
 namespace brel_common_qt_gui
 {
 
+void enlargeButtons(QDialogButtonBox* box)
+{
+    QList<QAbstractButton*> const buttons = box->buttons();
+    for (QAbstractButton* button : buttons)
+        button->setMinimumHeight(TOUCH_HEIGHT);
+}
+
 void connectDialogButtons(QDialogButtonBox* box, QDialog* dialog, char const* acceptSlot)
 {
     QObject::connect(box, SIGNAL(accepted()), dialog, acceptSlot);
     QObject::connect(box, SIGNAL(rejected()), dialog, SLOT(reject()));
-    QList<QAbstractButton*> const buttons = box->buttons();
-    for (QAbstractButton* button : buttons)
-        button->setMinimumHeight(TOUCH_HEIGHT);
+    enlargeButtons(box);
 }
 
 } // namespace brel_common_qt_gui

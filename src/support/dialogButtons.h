@@ -7,6 +7,9 @@ class QDialogButtonBox;
 namespace brel_common_qt_gui
 {
 
+/** Makes the box's buttons large enough for a finger; buttons added later see to themselves. */
+void enlargeButtons(QDialogButtonBox* box);
+
 /** Wires a dialog's own buttons: accepted() to the slot, rejected() to reject(); and makes them large enough for a
  *  finger. */
 void connectDialogButtons(QDialogButtonBox* box, QDialog* dialog, char const* acceptSlot);

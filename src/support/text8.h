@@ -15,12 +15,6 @@ inline QString fromText8(std::string const& text)
     return QString::fromUtf8(text.data(), int(text.size()));
 }
 
-inline std::string toAscii(QString const& text)
-{
-    QByteArray const bytes = text.toLatin1();
-    return std::string(bytes.constData(), std::size_t(bytes.size()));
-}
-
 /** A path as the file system spells it: the same as ASCII where there is nothing else in it. */
 inline std::string toPath8(QString const& path)
 {

@@ -31,6 +31,7 @@ private slots:
     void okRunsTheSlot();
     void cancelRejectsTheDialog();
     void buttonsAreLargeEnoughForAFinger();
+    void enlargesAddedButtonsToo();
 };
 
 void tst_dialogButtons::okRunsTheSlot()
@@ -53,6 +54,16 @@ void tst_dialogButtons::buttonsAreLargeEnoughForAFinger()
 {
     made_t made;
     for (QAbstractButton const* button : made.box.buttons())
+        QVERIFY(button->minimumHeight() >= 40);
+}
+
+void tst_dialogButtons::enlargesAddedButtonsToo()
+{
+    QDialogButtonBox box(QDialogButtonBox::Ok | QDialogButtonBox::Cancel);
+    box.addButton("More", QDialogButtonBox::ActionRole);
+    enlargeButtons(&box);
+    QCOMPARE(box.buttons().size(), 3);
+    for (QAbstractButton const* button : box.buttons())
         QVERIFY(button->minimumHeight() >= 40);
 }
 

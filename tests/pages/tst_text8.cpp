@@ -11,7 +11,6 @@ class tst_text8 : public melvox_test::test_t
 private slots:
     void readsTheReceiversTextsAsUtf8();
     void keepsTextsWithZeros();
-    void sendsPlainTextsAsTheyAre();
     void spellsPathsAsTheFileSystemDoes();
 };
 
@@ -25,12 +24,6 @@ void tst_text8::readsTheReceiversTextsAsUtf8()
 void tst_text8::keepsTextsWithZeros()
 {
     QCOMPARE(int(fromText8(std::string("a\0b", 3)).size()), 3);
-}
-
-void tst_text8::sendsPlainTextsAsTheyAre()
-{
-    QCOMPARE(toAscii("Field 7 ~"), std::string("Field 7 ~"));
-    QCOMPARE(toAscii(QString()), std::string());
 }
 
 void tst_text8::spellsPathsAsTheFileSystemDoes()
