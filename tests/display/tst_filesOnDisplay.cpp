@@ -1,0 +1,336 @@
+#include "brel_common_qt/kitUsb.h"
+#include "brel_common_qt/remoteMelvoxDevice.h"
+#include "brel_common_qt/usbDriveManager.h"
+#include "display/dialogHost.h"
+#include "display/displayStyle.h"
+#include "display/displayWindow.h"
+#include "display/screen.h"
+#include "display/uiSettings.h"
+#include "display/unit.h"
+#include "link/localLink.h"
+#include "receiver/receiver.h"
+#include "receiver/simClock.h"
+#include "support/folder.h"
+#include "support/operator.h"
+#include "support/test.h"
+
+#include <QApplication>
+#include <QProcess>
+#include <QProgressBar>
+#include <QTemporaryDir>
+
+using namespace melvox_display;
+using melvox_test::button;
+using melvox_test::find;
+using melvox_test::labelText;
+using melvox_test::tap;
+using melvox_test::waitFor;
+
+namespace
+{
+
+/** A whole unit with a drive and a receiver whose time runs fast. */
+struct fixture_t
+{
+    fixture_t()
+        : drives((melvox_kit::setUsbRoot(usb.path()), nullptr)), unit(connection_t()),
+          settings(folder.filePath("display.conf")), window(allPages(), &unit, &settings, QSize(800, 480))
+    {
+        unit.localLink()->setLatency(1);
+        unit.receiver()->clock().setSpeed(20);
+        unit.start();
+        window.showFirstPage("solutionControl");
+        window.show();
+        ready = waitFor([this]() { return unit.device()->activePortValid() && unit.device()->ntripPPPModeValid(); });
+    }
+    ~fixture_t() { melvox_kit::setUsbRoot(QString()); }
+
+    QWidget* page(QString const& name)
+    {
+        window.screen()->showPage(name);
+        melvox_test::settle();
+        return window.screen()->page(name);
+    }
+
+    /** The dialog on top, once it is one of that class. */
+    QDialog* dialog(char const* name)
+    {
+        displayDialogHost_t* const host = window.screen()->dialogs();
+        waitFor([&]() { return host->currentDialog() && host->currentDialog()->objectName() == name; });
+        return host->currentDialog();
+    }
+    QMessageBox* card()
+    {
+        displayDialogHost_t* const host = window.screen()->dialogs();
+        waitFor([&]() { return host->currentCard() != nullptr; }, 20000);
+        return qobject_cast<QMessageBox*>(host->currentCard());
+    }
+
+    void chooseDrive(QString const& name)
+    {
+        QDialog* const choice = dialog("usbDriveSelectDialog");
+        QTreeWidget* const tree = find<QTreeWidget>(choice, "driveTreeWidget");
+        QVERIFY(waitFor([&]() { return !tree->findItems(name, Qt::MatchExactly).isEmpty(); }));
+        tree->setCurrentItem(tree->findItems(name, Qt::MatchExactly).first());
+        tap(choice, "selectButton");
+    }
+
+    void chooseFile(char const* list, QString const& name, char const* select)
+    {
+        QDialog* const files = dialog(list);
+        QCOMPARE(files->objectName(), QString(list));
+        QVERIFY(waitFor([&]() { return !button(files, "Stop Scan")->isEnabled(); }));
+        QTreeWidget* const tree = find<QTreeWidget>(files, "treeWidget");
+        QVERIFY2(!tree->findItems(name, Qt::MatchExactly).isEmpty(), qPrintable(name + " is not listed"));
+        tree->setCurrentItem(tree->findItems(name, Qt::MatchExactly).first());
+        tap(files, select);
+    }
+
+    /** What the receiver says that it runs. */
+    QString version(std::string const& component)
+    {
+        for (brel_common_qt::melvoxFirmwareVersion_t const& one : unit.device()->firmwareVersions())
+        {
+            if (one.first == component)
+                return QString::fromStdString(one.second);
+        }
+        return QString();
+    }
+
+    QTemporaryDir folder;
+    melvox_test::folder_t usb;
+    brel_common_qt::usbDriveManager_t drives;
+    unit_t unit;
+    uiSettings_t settings;
+    displayWindow_t window;
+    bool ready;
+};
+
+void makePackage(QString const& path)
+{
+    QCOMPARE(QProcess::execute(MELVOX_FIRMWARE_PROGRAM,
+                               {"make", path, "NAV=1.15.2", "BOOT1=2.9", "PIOAPP=7.7", "--size", "64"}),
+             0);
+}
+
+} // namespace
+
+/** Files on their whole way: drive, page, proxy, link, receiver and back. */
+class tst_filesOnDisplay : public melvox_test::test_t
+{
+    Q_OBJECT
+
+private slots:
+    void initTestCase() { applyDisplayStyle(*qApp); }
+
+    void aPackageFromADriveBecomesTheFirmware()
+    {
+        fixture_t f;
+        QVERIFY(f.ready);
+        f.usb.makeDir("STICK/updates");
+        makePackage(f.usb.path("STICK/updates/release.srec"));
+        QWidget* const page = f.page("firmwareUpdate");
+        QVERIFY(waitFor([&]() { return f.version("NAV") == "1.14.40"; }));
+        tap(page, "Select Package");
+        f.chooseDrive("STICK");
+        f.chooseFile("melvoxUiUsbFirmwareSelectDialog", "release.srec", "Select Package");
+        QVERIFY(waitFor([&]() { return labelText(page, "packageLabel") == "release.srec"; }));
+        tap(page, "Start Update");
+        QMessageBox* const box = f.card();
+        QVERIFY(box);
+        QCOMPARE(box->windowTitle(), QString("Firmware Update Successful"));
+        QTreeWidget* const statuses = find<QTreeWidget>(page, "statusTreeWidget");
+        for (int i = 0; i < 3; ++i)
+            QCOMPARE(statuses->topLevelItem(i)->text(2), QString("Success"));
+        QCOMPARE(f.version("NAV"), QString("1.14.40"));
+        box->button(QMessageBox::Ok)->click();
+        QVERIFY(waitFor([&]() { return f.version("NAV") == "1.15.2"; }));
+        QVERIFY(waitFor([&]() { return f.version("BOOT1") == "2.9" && f.version("PIOAPP") == "7.7"; }));
+        QCOMPARE(f.unit.device()->port()->lockState(), brel_common_qt::PORT_LOCK_NONE);
+        QWidget* const information = f.page("receiverInformation");
+        tap(information, "Query");
+        QVERIFY(waitFor([&]() { return labelText(information, "firmwareLabel") == "1.15.2"; }));
+    }
+
+    void aFailingComponentIsToldOnTheScreen()
+    {
+        fixture_t f;
+        QVERIFY(f.ready);
+        f.unit.receiver()->setSituation("failingFirmware", "BOOT1");
+        f.usb.makeDir("STICK");
+        makePackage(f.usb.path("STICK/release.srec"));
+        QWidget* const page = f.page("firmwareUpdate");
+        tap(page, "Select Package");
+        f.chooseDrive("STICK");
+        f.chooseFile("melvoxUiUsbFirmwareSelectDialog", "release.srec", "Select Package");
+        tap(page, "Start Update");
+        QMessageBox* const box = f.card();
+        QVERIFY(box);
+        QCOMPARE(box->windowTitle(), QString("Firmware Update Failed"));
+        QCOMPARE(labelText(page, "statusLabel"), QString("Could not be written: BOOT1"));
+        box->button(QMessageBox::Ok)->click();
+        QVERIFY(waitFor([&]() { return f.version("BOOT1") == "incomplete"; }));
+    }
+
+    void anUpdateGoesOnWhileTheOperatorIsElsewhere()
+    {
+        fixture_t f;
+        QVERIFY(f.ready);
+        f.unit.receiver()->clock().setSpeed(1);
+        f.usb.makeDir("STICK");
+        makePackage(f.usb.path("STICK/release.srec"));
+        QWidget* const page = f.page("firmwareUpdate");
+        tap(page, "Select Package");
+        f.chooseDrive("STICK");
+        f.chooseFile("melvoxUiUsbFirmwareSelectDialog", "release.srec", "Select Package");
+        tap(page, "Start Update");
+        QProgressBar* const bar = find<QProgressBar>(page, "progressBar");
+        QVERIFY(waitFor([&]() { return bar->value() > 0; }));
+        f.page("solutionControl");
+        int const before = bar->value();
+        QVERIFY(waitFor([&]() { return bar->value() > before; }));
+        QCOMPARE(f.page("firmwareUpdate"), page);
+        QVERIFY(find<QTreeWidget>(page, "statusTreeWidget")->isVisible());
+        f.unit.receiver()->clock().setSpeed(20);
+        QMessageBox* const box = f.card();
+        QVERIFY(box);
+        box->button(QMessageBox::Ok)->click();
+    }
+
+    void aProfileIsDumpedRenamedAndLoadedOnAChangedReceiver()
+    {
+        fixture_t f;
+        QVERIFY(f.ready);
+        f.usb.makeDir("STICK");
+        QVERIFY(f.unit.receiver()->set("elevationMask", 12.5));
+        f.page("dumpProfile");
+        f.chooseDrive("STICK");
+        QDialog* const dump = f.dialog("melvoxUiProfileDumpDialog");
+        QVERIFY(waitFor([&]() { return labelText(dump, "statusLabel") == "Dump complete"; }));
+        QDir const stick(f.usb.path("STICK"));
+        QStringList const dumped = stick.entryList({"profile_*.dravel"});
+        QCOMPARE(int(dumped.size()), 1);
+        QVERIFY(QFile::rename(stick.filePath(dumped.first()), stick.filePath("profile_mine.melvox")));
+
+        QVERIFY(f.unit.receiver()->set("elevationMask", 33.0));
+        f.page("loadProfile");
+        f.chooseDrive("STICK");
+        f.chooseFile("melvoxUiUsbProfileListDialog", "profile_mine.melvox", "Load Profile");
+        QDialog* const load = f.dialog("melvoxUiProfileLoadDialog");
+        QVERIFY(waitFor([&]() { return labelText(load, "statusLabel") == "Load Complete"; }));
+        QCOMPARE(f.unit.receiver()->setting("elevationMask").toDouble(), 12.5);
+        QWidget* const page = f.page("solutionControl");
+        QVERIFY(waitFor([&]() { return labelText(page, "elevationMaskLabel") == "12.5"; }));
+        QVERIFY(waitFor([&]() { return f.unit.device()->port()->lockState() == brel_common_qt::PORT_LOCK_NONE; }));
+    }
+
+    void anAlteredProfileChangesNothing()
+    {
+        fixture_t f;
+        QVERIFY(f.ready);
+        f.usb.makeDir("STICK");
+        f.page("dumpProfile");
+        f.chooseDrive("STICK");
+        QDialog* const dump = f.dialog("melvoxUiProfileDumpDialog");
+        QVERIFY(waitFor([&]() { return labelText(dump, "statusLabel") == "Dump complete"; }));
+        QString const dumped = QDir(f.usb.path("STICK")).entryList({"profile_*"}).first();
+        QByteArray bytes = f.usb.read("STICK/" + dumped);
+        QVERIFY(bytes.contains("\"elevationMask\":7"));
+        f.usb.write("STICK/profile_bad.melvox", bytes.replace("\"elevationMask\":7", "\"elevationMask\":8"));
+        f.page("loadProfile");
+        f.chooseDrive("STICK");
+        f.chooseFile("melvoxUiUsbProfileListDialog", "profile_bad.melvox", "Load Profile");
+        QDialog* const load = f.dialog("melvoxUiProfileLoadDialog");
+        QVERIFY(waitFor([&]() { return labelText(load, "statusLabel") == "Error writing to port"; }));
+        QCOMPARE(f.unit.receiver()->setting("elevationMask").toDouble(), 7.0);
+    }
+
+    void aLoadShowsItsProgressAgainWhenTheOperatorComesBack()
+    {
+        fixture_t f;
+        QVERIFY(f.ready);
+        f.unit.localLink()->setLatency(300);
+        f.usb.write("STICK/profile_long.melvox", "melvox-profile 1\n" + QByteArray(20000, '\n'));
+        f.page("loadProfile");
+        f.chooseDrive("STICK");
+        f.chooseFile("melvoxUiUsbProfileListDialog", "profile_long.melvox", "Load Profile");
+        QDialog* const load = f.dialog("melvoxUiProfileLoadDialog");
+        QVERIFY(waitFor([&]() { return labelText(load, "statusLabel").startsWith("Loading data"); }));
+        f.page("solutionControl");
+        QVERIFY(!load->isVisible());
+        f.page("loadProfile");
+        QCOMPARE(f.dialog("melvoxUiProfileLoadDialog"), load);
+        QVERIFY(load->isVisible());
+        QVERIFY(labelText(load, "statusLabel").startsWith("Loading data"));
+        tap(load, "Cancel Load");
+        QCOMPARE(labelText(load, "statusLabel"), QString("Upload cancelled"));
+        f.unit.localLink()->setLatency(1);
+    }
+
+    void drivesComeAndGoOnTheScreen()
+    {
+        fixture_t f;
+        QVERIFY(f.ready);
+        f.page("loadProfile");
+        QDialog* const choice = f.dialog("usbDriveSelectDialog");
+        QTreeWidget* const tree = find<QTreeWidget>(choice, "driveTreeWidget");
+        QCOMPARE(tree->topLevelItemCount(), 0);
+        f.usb.makeDir("STICK");
+        QVERIFY(waitFor([&]() { return tree->topLevelItemCount() == 1; }));
+        melvox_test::folder_t::remove(f.usb.path("STICK"));
+        QVERIFY(waitFor([&]() { return tree->topLevelItemCount() == 0; }));
+    }
+
+    void profilesAreSavedUsedAndDeleted()
+    {
+        fixture_t f;
+        QVERIFY(f.ready);
+        QWidget* const page = f.page("settingsProfiles");
+        QTreeWidget* const list = find<QTreeWidget>(page, "profileList");
+        QVERIFY(f.unit.receiver()->set("elevationMask", 12.5));
+        find<QLineEdit>(page, "profileNameLineEdit")->setText("Field");
+        tap(page, "saveNewButton");
+        QVERIFY(waitFor([&]() { return list->findItems("Field", Qt::MatchExactly, 1).size() == 1; }));
+        QVERIFY(f.unit.receiver()->set("elevationMask", 33.0));
+        list->setCurrentItem(list->findItems("Field", Qt::MatchExactly, 1).first());
+        tap(page, "Set Active");
+        QVERIFY(waitFor([&]() { return f.unit.receiver()->setting("elevationMask").toDouble() == 12.5; }));
+        QVERIFY(waitFor([&]() { return list->findItems("Field", Qt::MatchExactly, 1).first()->text(0) == "Yes"; }));
+        tap(page, "Delete");
+        f.card()->button(QMessageBox::Yes)->click();
+        tap(page, "Query");
+        QVERIFY(waitFor([&]() { return list->findItems("Field", Qt::MatchExactly, 1).isEmpty(); }));
+    }
+
+    void aWebPackageIsUploadedFromADrive()
+    {
+        fixture_t f;
+        QVERIFY(f.ready);
+        f.usb.write("STICK/new.webui", QByteArray(50000, 'w'));
+        QWidget* const page = f.page("webInterface");
+        tap(page, "Select Package");
+        f.chooseDrive("STICK");
+        f.chooseFile("melvoxUiUsbWebUiSelectDialog", "new.webui", "Select Package");
+        QVERIFY(waitFor([&]() { return !button(page, "Select Package")->isEnabled(); }));
+        QVERIFY(waitFor([&]() { return labelText(page, "uploadStatusLabel").contains("2 of 2"); }));
+        QVERIFY(waitFor([&]() { return labelText(page, "uploadStatusLabel") == "Upload Complete"; }));
+        QCOMPARE(labelText(page, "uploadPercentLabel"), QString("100.00%"));
+    }
+
+    void theLteModemIsSwitchedFromTheScreen()
+    {
+        fixture_t f;
+        QVERIFY(f.ready);
+        QWidget* const page = f.page("receiverInformation");
+        tap(page, "Query");
+        QVERIFY(waitFor([&]() { return labelText(page, "lteModemStatusLabel") == "OFF"; }));
+        tap(page, "toggleLteModemButton");
+        f.card()->button(QMessageBox::Yes)->click();
+        QVERIFY(waitFor([&]() { return labelText(page, "lteModemStatusLabel") == "PENDING"; }));
+        QVERIFY(waitFor([&]() { return labelText(page, "lteModemStatusLabel") == "ON"; }));
+        QVERIFY(button(page, "toggleLteModemButton")->isEnabled());
+    }
+};
+
+QTEST_MAIN(tst_filesOnDisplay)
+#include "tst_filesOnDisplay.moc"
