@@ -17,6 +17,7 @@ namespace
 
 /** As a serial line at a usual rate feels. */
 int const LATENCY_MS = 30;
+melvox_link::line_t const SIMULATED_LINE = {115200, 8, 'N', 1};
 
 melvox_kit::linkKind_t kindOf(connection_t const& connection)
 {
@@ -25,9 +26,8 @@ melvox_kit::linkKind_t kindOf(connection_t const& connection)
     case connection_t::TCP:
         return melvox_kit::LINK_TCP;
     case connection_t::SERIAL:
-        return melvox_kit::LINK_SERIAL;
     case connection_t::SIMULATED:
-        break;
+        return melvox_kit::LINK_SERIAL;
     }
     return melvox_kit::LINK_OTHER;
 }
@@ -55,10 +55,13 @@ melvox_link::link_t* unit_t::createSimulated()
     m_clock = std::make_unique<melvox_receiver::simClock_t>();
     m_pair = std::make_unique<melvox_link::localLinkPair_t>();
     m_pair->setLatency(LATENCY_MS);
+    m_pair->displayEnd()->makeSerial(SIMULATED_LINE);
+    m_pair->receiverEnd()->makeSerial(SIMULATED_LINE);
     m_receiver = std::make_unique<melvox_receiver::receiver_t>(m_pair->receiverEnd(), m_clock.get());
     m_receiver->setSituation("solutionReports", true);
     m_receiver->setSituation("headingReports", true);
     m_receiver->setSituation("correctionReports", true);
+    m_receiver->setSituation("outputs", true);
     return m_pair->displayEnd();
 }
 

@@ -3,6 +3,7 @@
 #include "brel_common_qt/remoteMelvoxDevice.h"
 #include "brel_common_qt/textHelpers.h"
 #include "qdconfig/config.h"
+#include "support/asciiText.h"
 #include "support/pageSupport.h"
 #include "support/qtCompat.h"
 
@@ -92,7 +93,7 @@ QString displayName(std::string const& name)
 
 std::string receiverName(QString const& displayName)
 {
-    return displayName == NAK_DISPLAY_NAME ? NAK_MESSAGE : displayName.toLatin1().constData();
+    return displayName == NAK_DISPLAY_NAME ? NAK_MESSAGE : asciiText(displayName);
 }
 
 QString rateText(double hertz)
