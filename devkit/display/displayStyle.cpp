@@ -57,7 +57,8 @@ void displayStyle_t::polish(QWidget* widget)
 {
     QProxyStyle::polish(widget);
     // The delegate that a combo box brings along does not heed the style sheet, and its lines are too low for a finger.
-    if (QComboBox* combo = qobject_cast<QComboBox*>(widget))
+    QComboBox* combo = qobject_cast<QComboBox*>(widget);
+    if (combo && !qobject_cast<QStyledItemDelegate*>(combo->itemDelegate()))
         combo->setItemDelegate(new QStyledItemDelegate(combo));
     // What a page is there for.
     QDialogButtonBox* box = qobject_cast<QDialogButtonBox*>(widget->parentWidget());

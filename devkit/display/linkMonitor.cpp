@@ -34,11 +34,13 @@ QPushButton* createButton(QString const& name, QString const& text, QWidget* par
 } // namespace
 
 linkMonitor_t::linkMonitor_t(monitorModel_t* model, QWidget* parent)
-    : QFrame(parent), m_model(model), m_filtered(new QSortFilterProxyModel(this)), m_table(createTable()),
+    : QFrame(parent), m_model(model), m_filtered(new QSortFilterProxyModel(this)), m_table(nullptr),
       m_state(new QLabel(this)), m_pause(createButton("monitorPauseButton", tr("Pause"), this)),
       m_message(new QPlainTextEdit(this)), m_atEnd(true)
 {
+    // First of all: the style sheet is asked as soon as there is a table.
     setObjectName("linkMonitor");
+    m_table = createTable();
     QLabel* title = new QLabel(tr("Link monitor"), this);
     title->setObjectName("monitorTitle");
     m_state->setObjectName("monitorStateLabel");

@@ -3,11 +3,13 @@
 
 #include "display/pageRegistry.h"
 
+#include <QList>
 #include <QMap>
 #include <QScrollArea>
 
 class QButtonGroup;
 class QPushButton;
+class QVBoxLayout;
 
 namespace melvox_display
 {
@@ -23,13 +25,28 @@ public:
     /** Marks the page that is shown. */
     void setCurrent(QString const& name);
 
+    /** Two columns for a list that has the whole screen. */
+    void setColumns(int count);
+
 signals:
     void chosen(QString const& name);
 
+protected:
+    void resizeEvent(QResizeEvent* event) override;
+
 private:
-    void addPage(QWidget* list, pageEntry_t const& page);
+    struct section_t
+    {
+        QWidget* widget;
+        int pages;
+    };
+
+    QWidget* createSection(pageRegistry_t const& pages, subsystem_t subsystem);
+    void addPage(QWidget* section, pageEntry_t const& page);
 
     QButtonGroup* m_group;
+    QList<section_t> m_sections;
+    QVBoxLayout* m_columns[2];
     QMap<QString, QPushButton*> m_buttons;
     QString m_current;
 };

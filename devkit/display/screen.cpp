@@ -113,7 +113,7 @@ QWidget* screen_t::createTitleBar()
     m_title->setTextFormat(Qt::PlainText);
     m_title->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
     QHBoxLayout* layout = new QHBoxLayout(bar);
-    layout->setContentsMargins(12, 4, 12, 4);
+    layout->setContentsMargins(12, 0, 12, 0);
     layout->setSpacing(12);
     layout->addWidget(m_back);
     layout->addWidget(m_menu);
@@ -219,6 +219,7 @@ void screen_t::arrange()
     m_menu->setChecked(isMenuOpen());
     m_navigation->setVisible(!isNarrow() || isMenuOpen());
     m_area->setVisible(!isMenuOpen());
+    m_navigation->setColumns(isNarrow() ? 2 : 1);
     m_navigation->setMinimumWidth(isNarrow() ? 0 : MENU_WIDTH);
     m_navigation->setMaximumWidth(isNarrow() ? QWIDGETSIZE_MAX : MENU_WIDTH);
     m_title->setText(title());

@@ -12,6 +12,8 @@ namespace melvox_display
 void scrollByFinger(QAbstractScrollArea* area)
 {
     QWidget* viewport = area->viewport();
+    if (QScroller::hasScroller(viewport))
+        return;
     // The left button: a touch that nobody takes arrives as one, and a mouse on the desk scrolls the same way.
     QScroller::grabGesture(viewport, QScroller::LeftMouseButtonGesture);
     QScroller* scroller = QScroller::scroller(viewport);

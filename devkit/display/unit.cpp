@@ -104,7 +104,7 @@ bool unit_t::isSimulated() const
 
 QString unit_t::description() const
 {
-    return m_receiver ? tr("in this program") : m_tap->description();
+    return m_receiver ? tr("receiver in this program") : m_tap->description();
 }
 
 linkState_t unit_t::linkState() const

@@ -3,6 +3,7 @@
 #include "brel_common_qt/remoteMelvoxDevice.h"
 #include "support/text8.h"
 
+#include <QScrollBar>
 #include <QTextCursor>
 #include <QTextEdit>
 
@@ -35,18 +36,22 @@ melvoxUiFirmwareVersionDisplay_t::~melvoxUiFirmwareVersionDisplay_t()
 
 void melvoxUiFirmwareVersionDisplay_t::updateText()
 {
+    QScrollBar* const bar = m_data->textEdit->verticalScrollBar();
+    int const place = bar->value();
     m_data->textEdit->clear();
     QTextCharFormat bold;
     bold.setFontWeight(QFont::Bold);
     QTextCharFormat normal;
     normal.setFontWeight(QFont::Normal);
-    // A cursor of its own does not scroll the box away under somebody who reads it.
     QTextCursor cursor(m_data->textEdit->document());
     for (melvoxFirmwareVersion_t const& version : m_data->device->firmwareVersions())
     {
         cursor.insertText(fromText8(version.first) + ": ", bold);
         cursor.insertText(fromText8(version.second) + "\n", normal);
     }
+    // The box goes where its own cursor is, which the text has pushed to the end; whoever reads stays where he is.
+    m_data->textEdit->moveCursor(QTextCursor::Start);
+    bar->setValue(place);
 }
 
 } // namespace brel_common_qt_gui

@@ -22,8 +22,9 @@ void connectScanDialog(scanDialog_t const& parts, char const* selectSlot)
     QObject::connect(parts.scanner, SIGNAL(scanFinished()), dialog, SLOT(checkScanState()));
     QObject::connect(parts.scanner, SIGNAL(filesReceived()), dialog, SLOT(handleFilesReceived()));
     parts.buttonBox->button(QDialogButtonBox::Cancel)->setMinimumHeight(TOUCH_HEIGHT);
-    // Enter chooses what is marked.
-    parts.selectButton->setDefault(true);
+    // None of them stands out: what there is to do here is to choose from the list.
+    for (QAbstractButton* button : parts.buttonBox->buttons())
+        static_cast<QPushButton*>(button)->setAutoDefault(false);
     parts.tree->sortByColumn(0, Qt::AscendingOrder);
 }
 

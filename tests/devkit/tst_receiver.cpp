@@ -494,8 +494,7 @@ void tst_receiver::holdsOutputIntervalsWithinItsLimits()
     QFETCH(double, sent);
     QFETCH(double, taken);
     display->command("output", output(5, qPrintable(message), 1, sent));
-    QCOMPARE(display->texts().first(),
-             toText({message_t::REPORT, "output", output(5, qPrintable(message), 1, taken)}));
+    QCOMPARE(display->texts().first(), toText({message_t::REPORT, "output", output(5, qPrintable(message), 1, taken)}));
 }
 
 void tst_receiver::turnsAMessageOff()

@@ -1,6 +1,7 @@
 #include "brel_common_qt/remoteMelvoxDevice.h"
 #include "display/displayStyle.h"
 #include "display/displayWindow.h"
+#include "display/keypad.h"
 #include "display/linkMonitor.h"
 #include "display/screen.h"
 #include "display/statusStrip.h"
@@ -144,6 +145,8 @@ private slots:
             f.window.screen()->showPage(page.name);
         f.window.toggleMonitor();
         f.window.toggleMonitor();
+        f.window.screen()->showPage("solutionControl");
+        f.window.screen()->keypad()->open(f.window.findChild<QLineEdit*>("pdopLineEdit"));
         // Messages that go on coming are the receiver's own doing.
         f.unit.localLink()->setOpen(false);
         QVERIFY2(melvox_test::waitFor([&]() { return timersIn(&f.window).isEmpty(); }, 10000),

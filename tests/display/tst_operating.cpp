@@ -13,7 +13,9 @@
 #include "support/test.h"
 
 #include <QAbstractButton>
+#include <QAbstractItemView>
 #include <QApplication>
+#include <QComboBox>
 #include <QDialogButtonBox>
 #include <QDir>
 #include <QImage>
@@ -147,6 +149,29 @@ private slots:
         f.tap(f.apply());
         QVERIFY(melvox_test::waitFor([&]() { return f.label("pdopLabel") == QString::number(before, 'f', 1); }));
         QCOMPARE(f.unit.receiver()->setting("pdopLimit").toDouble(), before);
+    }
+
+    void choiceFromAListReachesTheReceiver()
+    {
+        fixture_t f(QSize(800, 480));
+        QComboBox* combo = f.page->findChild<QComboBox*>("geoidalModelCombo");
+        QCOMPARE(f.label("geoidalModelLabel"), QString("EGM84"));
+        // What the offscreen platform cannot do.
+        melvox_test::expectWarning("raise()");
+        melvox_test::expectWarning("grabbing the keyboard");
+        f.tap(combo);
+        QAbstractItemView* list = combo->view();
+        QVERIFY(QTest::qWaitForWindowExposed(list->window()));
+        QRect const item = list->visualRect(list->model()->index(0, 0));
+        QVERIFY2(item.height() >= 40, "too low for a finger");
+        QPoint const place = list->viewport()->mapTo(list->window(), item.center());
+        QTest::mouseMove(list->window()->windowHandle(), place);
+        QTest::mouseClick(list->window()->windowHandle(), Qt::LeftButton, Qt::NoModifier, place);
+        QVERIFY(melvox_test::waitFor([&]() { return combo->currentIndex() == 0; }));
+        QVERIFY(!list->isVisible());
+        f.tap(f.apply());
+        QVERIFY(melvox_test::waitFor([&]() { return f.label("geoidalModelLabel") == "None"; }));
+        QCOMPARE(f.unit.receiver()->setting("geoidalModel").toInt(), 0);
     }
 
     void tourPicturesEveryPage()

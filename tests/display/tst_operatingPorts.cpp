@@ -160,7 +160,7 @@ void tst_operatingPorts::putsAMessageOut()
     // The datum comes along by itself, and the sentences really go out.
     QVERIFY(waitFor([&]() { return f.rowText("messagesTreeWidget", "NMEADTM", 1) == "Interval 1.00(1)"; }));
     QVERIFY(waitFor([&]() { return sentences > 0; }));
-    QVERIFY(f.page->findChild<melvoxUiDtmWarnDialog_t*>()->isVisible());
+    QVERIFY(f.window.findChild<melvoxUiDtmWarnDialog_t*>()->isVisible());
 }
 
 void tst_operatingPorts::showsHowBusyAPortIs()
@@ -207,7 +207,7 @@ void tst_operatingPorts::warnsOfDtmUntilToldNotToEvenAfterARestart()
         choose(f.page, "portsCombo", "COM4");
         f.selectRow("messagesTreeWidget", "NMEAGLL");
         f.tapIn("messagesButtonBox", "Apply");
-        melvoxUiDtmWarnDialog_t* const warning = f.page->findChild<melvoxUiDtmWarnDialog_t*>();
+        melvoxUiDtmWarnDialog_t* const warning = f.window.findChild<melvoxUiDtmWarnDialog_t*>();
         QVERIFY(warning->isVisible());
         f.tap(find<QCheckBox>(warning, "suppressWarningCheckBox"));
         f.tap(melvox_test::button(warning, "OK"));
@@ -228,7 +228,7 @@ void tst_operatingPorts::changesALine()
     QVERIFY(waitFor([&]() { return f.rowText("physicalTreeWidget", "COM3", 1) == "38400"; }));
     f.selectRow("physicalTreeWidget", "COM3");
     f.tapIn("buttonBox", "Configure Port");
-    QWidget* const dialog = f.page->findChild<melvoxUiPhysicalPortConfigDialog_t*>();
+    QWidget* const dialog = f.window.findChild<melvoxUiPhysicalPortConfigDialog_t*>();
     QVERIFY(dialog->isVisible());
     QCOMPARE(chosen(dialog, "baudCombo"), QString("38400"));
     choose(dialog, "baudCombo", "9600");
@@ -245,7 +245,7 @@ void tst_operatingPorts::movesItsOwnLine()
     QVERIFY(waitFor([&]() { return f.rowText("physicalTreeWidget", "COM1", 1) == "115200"; }));
     f.selectRow("physicalTreeWidget", "COM1");
     QMetaObject::invokeMethod(f.page, "configureSelectedPhysicalPort");
-    QWidget* const dialog = f.page->findChild<melvoxUiPhysicalPortConfigDialog_t*>();
+    QWidget* const dialog = f.window.findChild<melvoxUiPhysicalPortConfigDialog_t*>();
     choose(dialog, "baudCombo", "230400");
     choose(dialog, "stopBitsCombo", "2");
     f.tap(melvox_test::button(dialog, "OK"));
@@ -279,7 +279,7 @@ void tst_operatingPorts::enablesAVirtualPort()
     QVERIFY(waitFor([&]() { return f.rowText("virtualTreeWidget", "ETH3", 1) == NoString; }));
     f.selectRow("virtualTreeWidget", "ETH3");
     f.tapIn("buttonBox", "Configure Port");
-    QWidget* const dialog = f.page->findChild<melvoxUiVirtualPortConfigDialog_t*>();
+    QWidget* const dialog = f.window.findChild<melvoxUiVirtualPortConfigDialog_t*>();
     QVERIFY(dialog->isVisible());
     choose(dialog, "enabledCombo", "Yes");
     f.tap(find<QLineEdit>(dialog, "localPortLineEdit"));

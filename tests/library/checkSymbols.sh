@@ -26,7 +26,7 @@ fi
 
 # errorText_t is declared with an inline destructor, so whoever uses it carries a copy of its table.
 shown=$("$nm" -D --defined-only --demangle "$library" | sed 's/^[0-9a-f]* [A-Za-z] //' |
-    grep 'brel_common_qt_gui::' |
+    grep -E '^([A-Za-z_:]+ )?((vtable|typeinfo|typeinfo name) for |non-virtual thunk to )?brel_common_qt_gui::' |
     grep -vE '^(vtable for |typeinfo for |typeinfo name for |non-virtual thunk to )?brel_common_qt_gui::(melvox[A-Za-z]*_t(::|$)|errorText_t)')
 if [ -n "$shown" ]; then
     printf 'the library shows what is its own business:\n%s\n' "$shown"

@@ -107,6 +107,13 @@ void tst_melvoxUiFirmwareVersionDisplay::doesNotScrollTheReaderAway()
         tell(qPrintable(QString("COMPONENT%1").arg(i)), "1.0");
     melvox_test::settle();
     QCOMPARE(box.verticalScrollBar()->value(), 0);
+    box.resize(120, 70); // which brings the box's cursor into view
+    melvox_test::settle();
+    QCOMPARE(box.verticalScrollBar()->value(), 0);
+    box.verticalScrollBar()->setValue(50);
+    tell("COMPONENT3", "2.0");
+    melvox_test::settle();
+    QCOMPARE(box.verticalScrollBar()->value(), 50);
 }
 
 QTEST_MAIN(tst_melvoxUiFirmwareVersionDisplay)
