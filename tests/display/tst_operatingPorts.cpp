@@ -209,7 +209,7 @@ void tst_operatingPorts::warnsOfDtmUntilToldNotToEvenAfterARestart()
         f.tapIn("messagesButtonBox", "Apply");
         melvoxUiDtmWarnDialog_t* const warning = f.window.findChild<melvoxUiDtmWarnDialog_t*>();
         QVERIFY(warning->isVisible());
-        f.tap(find<QCheckBox>(warning, "suppressWarningCheckBox"));
+        find<QCheckBox>(warning, "suppressWarningCheckBox")->click();
         f.tap(melvox_test::button(warning, "OK"));
         QVERIFY(!warning->isVisible());
         QVERIFY(!f.unit.device()->showDtmWarning());

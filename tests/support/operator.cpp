@@ -130,7 +130,8 @@ QStringList headerTexts(QTreeWidget* tree)
 
 QMessageBox* openBox()
 {
-    QWidgetList const all = QApplication::topLevelWidgets();
+    // All widgets: a host may show a box within its own window.
+    QWidgetList const all = QApplication::allWidgets();
     for (int i = 0; i < all.size(); ++i)
     {
         QMessageBox* const box = qobject_cast<QMessageBox*>(all.at(i));
