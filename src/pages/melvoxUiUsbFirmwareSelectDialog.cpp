@@ -3,6 +3,8 @@
 #include "support/pageSupport.h"
 #include "support/qtCompat.h"
 
+#include <memory>
+
 using namespace brel_common_qt;
 
 namespace brel_common_qt_gui
@@ -58,9 +60,9 @@ melvoxUiUsbFirmwareSelectDialog_t::scanner_t::~scanner_t()
 
 bool melvoxUiUsbFirmwareSelectDialog_t::scanner_t::filter(QFileInfo const& fileInfo)
 {
-    QScopedPointer<melvoxUiFirmwarePackage_t> candidate(new melvoxUiFirmwarePackage_t(fileInfo));
+    std::unique_ptr<melvoxUiFirmwarePackage_t> candidate(new melvoxUiFirmwarePackage_t(fileInfo));
     if (readPackage(*candidate, preferredProduct))
-        postFile(candidate.take());
+        postFile(candidate.release());
     return true;
 }
 
