@@ -4,6 +4,7 @@
 #include "receiver/rtcm.h"
 
 #include <QDataStream>
+#include <QIODevice>
 
 namespace melvox_receiver
 {
