@@ -256,9 +256,9 @@ struct remoteMelvoxDevice_t::privateData_t::replyTable_t
         };
         replies["output"] = [](cache_t& c, QVariant const& v)
         {
-            melvoxPort_t port;
+            melvoxPort_t port = melvoxPort_t();
             std::string name;
-            melvoxMessageOutput_t output;
+            melvoxMessageOutput_t output = melvoxMessageOutput_t();
             if (!readAtPort(v, port, output) || !readFields(v, "message", name))
                 return false;
             c.outputs[port][name] = output;
@@ -267,7 +267,7 @@ struct remoteMelvoxDevice_t::privateData_t::replyTable_t
         };
         replies["portTxRxInfo"] = [](cache_t& c, QVariant const& v)
         {
-            melvoxPort_t port;
+            melvoxPort_t port = melvoxPort_t();
             PortTxRxInfo info;
             if (!readAtPort(v, port, info))
                 return false;
@@ -283,8 +283,8 @@ struct remoteMelvoxDevice_t::privateData_t::replyTable_t
     {
         replies["serialConfig"] = [](cache_t& c, QVariant const& v)
         {
-            melvoxPort_t port;
-            melvoxSerialPortConfig_t config;
+            melvoxPort_t port = melvoxPort_t();
+            melvoxSerialPortConfig_t config = melvoxSerialPortConfig_t();
             if (!readAtPort(v, port, config))
                 return false;
             emit c.device->serialConfigUpdated(port, config);
@@ -292,8 +292,8 @@ struct remoteMelvoxDevice_t::privateData_t::replyTable_t
         };
         replies["serialRs232Mode"] = [](cache_t& c, QVariant const& v)
         {
-            melvoxPort_t port;
-            bool rs232;
+            melvoxPort_t port = melvoxPort_t();
+            bool rs232 = false;
             if (!readFields(v, "port", port, "rs232", rs232) || !isPort(port))
                 return false;
             emit c.device->serialRs232ModeUpdated(port, rs232);
@@ -301,8 +301,8 @@ struct remoteMelvoxDevice_t::privateData_t::replyTable_t
         };
         replies["vcomConfig"] = [](cache_t& c, QVariant const& v)
         {
-            melvoxPort_t port;
-            melvoxVcomConfig_t config;
+            melvoxPort_t port = melvoxPort_t();
+            melvoxVcomConfig_t config = melvoxVcomConfig_t();
             if (!readAtPort(v, port, config))
                 return false;
             emit c.device->vcomConfigUpdated(port, config);
@@ -321,7 +321,7 @@ struct remoteMelvoxDevice_t::privateData_t::replyTable_t
     {
         replies["ethernetConfig"] = [](cache_t& c, QVariant const& v)
         {
-            melvoxEthernetConfigSource_t source;
+            melvoxEthernetConfigSource_t source = melvoxEthernetConfigSource_t();
             ethernetSetting_t setting;
             if (!readFields(v, "source", source) || !isEthernetSource(source) || !read(v, setting))
                 return false;
@@ -363,7 +363,7 @@ struct remoteMelvoxDevice_t::privateData_t::replyTable_t
         };
         replies["firmwareUpdateState"] = [](cache_t& c, QVariant const& v)
         {
-            firmwareUpdateState_t state;
+            firmwareUpdateState_t state = firmwareUpdateState_t();
             std::string description;
             if (!readFields(v, "state", state, "description", description))
                 return false;
@@ -395,7 +395,7 @@ struct remoteMelvoxDevice_t::privateData_t::replyTable_t
         replies["profile"] = [](cache_t& c, QVariant const& v)
         {
             std::string name;
-            unsigned int modified;
+            unsigned int modified = 0;
             if (!readFields(v, "name", name, "modified", modified))
                 return false;
             emit c.device->profileUpdated(name, modified);
