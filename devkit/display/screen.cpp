@@ -33,6 +33,14 @@ int const HIGH = 560;
 
 using brel_common_qt_gui::dialogPage_t;
 
+/** Some of what pages show is not kept for those who come later, so a new page asks for it. Later showings must not: a
+ *  report may take back what was typed. */
+void askForValues(QWidget* page)
+{
+    if (page->metaObject()->indexOfSlot("query()") >= 0)
+        QMetaObject::invokeMethod(page, "query");
+}
+
 QPushButton* createBarButton(QString const& name, QString const& text, glyph_t glyph, QWidget* parent)
 {
     QPushButton* button = new QPushButton(glyphIcon(glyph), text, parent);
@@ -151,6 +159,7 @@ QWidget* screen_t::createPage(pageEntry_t const& entry)
     QWidget* view = createScrollView(page, m_area);
     m_views.insert(entry.name, view);
     m_area->addWidget(view);
+    askForValues(page);
     return page;
 }
 

@@ -185,6 +185,9 @@ void receiver_t::takeRequest(link_t* from, message_t const& message)
     if (message.group == "activePort")
     {
         report(from, message.group, activePort(from));
+        // Who asks for the port wants to know the ports: displays have no other request for the table of them.
+        for (char const* table : {"serialConfig", "serialRs232Mode", "vcomConfig"})
+            reportSetting(from, *findSetting(table));
         return;
     }
     for (auto const& behaviour : m_behaviours)

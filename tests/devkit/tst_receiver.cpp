@@ -7,6 +7,8 @@
 
 #include "support/test.h"
 
+#include <QRegularExpression>
+
 #include <cmath>
 
 using namespace melvox_receiver;
@@ -68,6 +70,7 @@ private slots:
     void tellsAllDisplaysOfAChange();
     void tellsOnlyWhoeverAskedOfNoChange();
     void knowsThePortOfEachDisplay();
+    void tellsWhoeverAsksForThePortOfAllPorts();
     void tellsADisplayOfItsNewPort();
     void goesOnWhenADisplayIsGone();
     void canBeSetFromItsOwnSide();
@@ -313,8 +316,20 @@ void tst_receiver::knowsThePortOfEachDisplay()
     receiver->addLink(&other, 8);
     display->request("activePort");
     other.request("activePort");
-    QCOMPARE(display->texts(), QStringList("activePort 0"));
-    QCOMPARE(other.texts(), QStringList("activePort 8"));
+    QCOMPARE(display->texts().first(), QString("activePort 0"));
+    QCOMPARE(other.texts().first(), QString("activePort 8"));
+}
+
+void tst_receiver::tellsWhoeverAsksForThePortOfAllPorts()
+{
+    receiverEnd_t other;
+    receiver->addLink(&other, 8);
+    display->request("activePort");
+    QStringList const texts = display->texts();
+    QCOMPARE(int(texts.filter(QRegularExpression("^serialConfig .*port=[0-5] ")).size()), 6);
+    QCOMPARE(int(texts.filter(QRegularExpression("^serialRs232Mode port=[0-5] ")).size()), 6);
+    QCOMPARE(int(texts.filter(QRegularExpression("^vcomConfig .*port=([6-9]|1[0-3]) ")).size()), 8);
+    QVERIFY(other.texts().isEmpty());
 }
 
 void tst_receiver::tellsADisplayOfItsNewPort()

@@ -98,8 +98,8 @@ void tst_receiverProgram::answersOverTcp()
     QVERIFY(waitFor([&]() { return link.isOpen(); }));
     link.send({message_t::REQUEST, "activePort"});
     link.send({message_t::COMMAND, "elevationMask", 95.0});
-    QVERIFY(waitFor([&]() { return listener.texts.size() == 2; }));
-    QCOMPARE(listener.texts, (QStringList{"report activePort 6", "report elevationMask 90"}));
+    QVERIFY(waitFor([&]() { return listener.texts.contains("report elevationMask 90"); }));
+    QCOMPARE(listener.texts.first(), QString("report activePort 6"));
 }
 
 void tst_receiverProgram::tellsSolutionAndHeadingByItself()
@@ -123,9 +123,9 @@ void tst_receiverProgram::answersOverAPseudoTerminal()
     QVERIFY2(link.isOpen(), qPrintable(link.errorText()));
     link.send({message_t::REQUEST, "activePort"});
     link.send({message_t::REQUEST, "antennaList"});
-    QVERIFY(waitFor([&]() { return listener.texts.size() == 18; }));
+    QVERIFY(waitFor([&]() { return listener.texts.filter("report antennaName ").size() == 16; }));
     QCOMPARE(listener.texts.first(), QString("report activePort 0"));
-    QCOMPARE(listener.texts.at(1), QString("event antennaListReset"));
+    QCOMPARE(listener.texts.filter("antenna").first(), QString("event antennaListReset"));
 }
 
 void tst_receiverProgram::listensInSeveralPlaces()

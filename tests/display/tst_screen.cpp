@@ -29,6 +29,18 @@ namespace
 {
 
 int made = 0;
+int asked = 0;
+
+class shortPage_t : public QLabel
+{
+    Q_OBJECT
+
+public:
+    shortPage_t() : QLabel("short") {}
+
+public slots:
+    void query() { ++asked; }
+};
 
 /** Stands for a page that is higher than the screen; the last edit is at its foot. */
 QWidget* createLongPage(remoteMelvoxDevice_t*)
@@ -49,7 +61,7 @@ QWidget* createLongPage(remoteMelvoxDevice_t*)
 QWidget* createShortPage(remoteMelvoxDevice_t*)
 {
     ++made;
-    return new QLabel("short");
+    return new shortPage_t;
 }
 
 QWidget* createMenuDialog(remoteMelvoxDevice_t*)
@@ -73,6 +85,7 @@ struct fixture_t
           screen(PAGES, &device, &settings)
     {
         made = 0;
+        asked = 0;
         screen.resize(size);
         screen.show();
         screen.activateWindow();
@@ -103,6 +116,16 @@ class tst_screen : public melvox_test::test_t
 
 private slots:
     void initTestCase() { applyDisplayStyle(*qApp); }
+
+    void aPageAsksTheReceiverWhenItIsMadeAndNotWhenItIsShownAgain()
+    {
+        fixture_t f;
+        f.screen.showPage("short");
+        QCOMPARE(asked, 1);
+        f.screen.showPage("long");
+        f.screen.showPage("short");
+        QCOMPARE(asked, 1);
+    }
 
     void everyRegisteredPageCanBeMade()
     {
