@@ -6,6 +6,7 @@
 #include "display/keypad.h"
 #include "display/lineEntry.h"
 #include "display/screen.h"
+#include "display/tourScenes.h"
 #include "display/unit.h"
 #include "link/linkTap.h"
 #include "link/localLink.h"
@@ -22,6 +23,7 @@
 #include <QPixmap>
 #include <QPointer>
 #include <QPushButton>
+#include <QRegularExpression>
 #include <QScrollArea>
 #include <QScrollBar>
 #include <QSet>
@@ -37,6 +39,7 @@ namespace
 
 int const ANSWER_MS = 5000;
 int const REACTION_MS = 1500;
+int const SCENE_MS = 60000; // a scan of a drive, half a firmware update, on a busy machine
 
 bool waitUntil(std::function<bool()> const& condition, int milliseconds)
 {
@@ -66,9 +69,22 @@ QString answerTo(QString const& group)
     return group;
 }
 
-QString shortName(QObject const* object)
+/** "Confirm Delete" gives "confirmDelete". */
+QString titleAsName(QString const& title)
+{
+    QString name;
+    for (QString const& word : title.split(' '))
+        name += word.left(1).toUpper() + word.mid(1);
+    name.remove(QRegularExpression("\\W"));
+    return name.left(1).toLower() + name.mid(1);
+}
+
+/** Of its class, or its title where many are of one class. */
+QString shortName(QDialog const* object)
 {
     QString name = QString(object->metaObject()->className()).section("::", -1);
+    if (name.startsWith('Q') && !object->windowTitle().isEmpty())
+        return titleAsName(object->windowTitle());
     if (name.startsWith("melvoxUi"))
         name.remove(0, 8);
     if (name.endsWith("_t"))
@@ -93,6 +109,9 @@ private:
     void visitPage(pageEntry_t const& entry);
     void shootScrolled(QString const& name);
     void checkWidth(QString const& name);
+    void playScenes(QString const& pageName);
+    void playScene(scene_t const& scene);
+    void playLastScenes();
     void visitNewDialogs(QString const& pageName);
     void visitKeypads(pageEntry_t const& entry);
     void visitErrorBox(QLineEdit* edit, QWidget* page);
@@ -106,6 +125,7 @@ private:
     displayWindow_t& m_window;
     unit_t& m_unit;
     screen_t& m_screen;
+    tourHands_t m_hands;
     QDir m_folder;
     QMetaObject::Connection m_listening;
     QSet<QString> m_open; //!< groups whose answer has not come
@@ -117,8 +137,8 @@ private:
 };
 
 tour_t::tour_t(displayWindow_t& window, unit_t& unit, QString const& folder)
-    : m_window(window), m_unit(unit), m_screen(*window.screen()), m_folder(folder), m_numericShown(false),
-      m_fullShown(false), m_count(0), m_faults(0)
+    : m_window(window), m_unit(unit), m_screen(*window.screen()), m_hands(m_screen, unit), m_folder(folder),
+      m_numericShown(false), m_fullShown(false), m_count(0), m_faults(0)
 {
     m_listening = QObject::connect(m_unit.tap(), &melvox_link::linkTap_t::passed,
                                    [this](melvox_link::message_t const& message, bool fromDisplay)
@@ -213,9 +233,49 @@ void tour_t::visitPage(pageEntry_t const& entry)
     waitForAnswers();
     shootScrolled(name);
     m_screen.dialogs()->rejectAll();
+    playScenes(name);
     visitNewDialogs(name);
     if (!entry.act)
         visitKeypads(entry);
+}
+
+void tour_t::playScenes(QString const& pageName)
+{
+    for (scene_t const& scene : tourScenes())
+    {
+        if (scene.page == pageName && scene.need != scene_t::LAST && isMet(scene.need))
+            playScene(scene);
+    }
+}
+
+void tour_t::playScene(scene_t const& scene)
+{
+    m_screen.showPage(scene.page);
+    for (QString const& step : scene.steps)
+    {
+        if (step.startsWith("shoot "))
+        {
+            waitForAnswers();
+            shoot(scene.page + "-" + step.section(' ', 1));
+            m_seen << m_screen.dialogs()->currentDialog();
+        }
+        else if (!waitUntil([this, step]() { return m_hands.take(step); }, SCENE_MS))
+        {
+            fail(QString("on %1 it was not possible to: %2").arg(scene.page, step));
+            break;
+        }
+    }
+    m_screen.dialogs()->rejectAll();
+}
+
+/** Not with a receiver that others may be using: it is left in the middle of something. */
+void tour_t::playLastScenes()
+{
+    for (scene_t const& scene : tourScenes())
+    {
+        if (scene.need == scene_t::LAST && isMet(scene.need) && m_unit.receiver())
+            playScene(scene);
+    }
 }
 
 void tour_t::visitNewDialogs(QString const& pageName)
@@ -339,6 +399,7 @@ int tour_t::walk()
     visitMenu();
     visitMonitor();
     visitInterruption();
+    playLastScenes();
     std::printf("%d pictures, %d faults\n", m_count, m_faults);
     std::fflush(stdout);
     return m_faults == 0 ? 0 : 1;

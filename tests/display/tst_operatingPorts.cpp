@@ -137,6 +137,7 @@ private slots:
     void disablesAllMessagesOfAPort();
     void setsTheTalker();
     void warnsOfDtmUntilToldNotToEvenAfterARestart();
+    void listsThePortsOnAPageThatIsOpenedLate();
     void changesALine();
     void movesItsOwnLine();
     void speedsUpAnOwnLineThatIsTooSlow();
@@ -220,6 +221,15 @@ void tst_operatingPorts::warnsOfDtmUntilToldNotToEvenAfterARestart()
     again.selectRow("messagesTreeWidget", "NMEAGLL");
     again.tapIn("messagesButtonBox", "Apply");
     QVERIFY(!again.page->findChild<melvoxUiDtmWarnDialog_t*>()->isVisible());
+}
+
+void tst_operatingPorts::listsThePortsOnAPageThatIsOpenedLate()
+{
+    fixture_t f("solutionControl", file());
+    QVERIFY(f.window.screen()->showPage("portConfiguration"));
+    QWidget* const page = f.window.screen()->page("portConfiguration");
+    QVERIFY(waitFor([&]() { return find<QTreeWidget>(page, "physicalTreeWidget")->topLevelItemCount() > 0; }));
+    QVERIFY(waitFor([&]() { return find<QTreeWidget>(page, "virtualTreeWidget")->topLevelItemCount() > 0; }));
 }
 
 void tst_operatingPorts::changesALine()
