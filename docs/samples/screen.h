@@ -4,7 +4,6 @@
 #include "brel_common_qt_gui/dialogPage.h"
 
 #include <QDialog>
-#include <QPointer>
 #include <QStackedWidget>
 
 // begin screen
@@ -19,35 +18,31 @@ public:
 
     void showPage(QWidget* page)
     {
-        m_page = page;
         addWidget(page);
         setCurrentWidget(page);
     }
 
     void showDialog(QDialog* dialog) override
     {
-        if (indexOf(dialog) < 0)
-        {
-            dialog->setWindowFlags(Qt::Widget);
-            addWidget(dialog);
-            connect(dialog, SIGNAL(finished(int)), this, SLOT(leave()), Qt::UniqueConnection);
-        }
-        // Shown before: it comes to the front.
+        // One that is shown already comes to the front.
+        removeWidget(dialog);
+        dialog->setWindowFlags(Qt::Widget);
+        addWidget(dialog);
         setCurrentWidget(dialog);
         dialog->show();
+        connect(dialog, SIGNAL(finished(int)), this, SLOT(leave()), Qt::UniqueConnection);
     }
 
 private slots:
     void leave()
     {
-        // Hidden, not deleted: its owner shows it again.
-        removeWidget(static_cast<QWidget*>(sender()));
-        if (m_page)
-            setCurrentWidget(m_page);
+        QDialog* const dialog = static_cast<QDialog*>(sender());
+        // Its owner may have shown it again, out of the same signal.
+        if (!dialog->isHidden())
+            return;
+        removeWidget(dialog);
+        setCurrentIndex(count() - 1);
     }
-
-private:
-    QPointer<QWidget> m_page;
 };
 // end
 

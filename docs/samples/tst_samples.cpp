@@ -42,6 +42,25 @@ QWidget* makeWebPage(remoteMelvoxDevice_t* receiver, bool unitHasUsb, QScopedPoi
 }
 // end
 
+/** An owner that does not take no for an answer. */
+class stubborn_t : public QObject
+{
+    Q_OBJECT
+
+public:
+    explicit stubborn_t(QDialog* dialog) : page(dialog), left(1) {}
+
+    dialogPage_t page;
+    int left;
+
+public slots:
+    void showAgain()
+    {
+        if (left-- > 0)
+            page.show();
+    }
+};
+
 class tst_samples : public melvox_test::pageTest_t
 {
     Q_OBJECT
@@ -50,6 +69,8 @@ private slots:
     void operatesAPage();
     void showsDialogsInItsScreen();
     void hidesAFinishedDialogAndShowsItAgain();
+    void comesBackToTheDialogBelow();
+    void keepsADialogThatIsShownAgainWhenItFinishes();
     void survivesAPageThatTakesItsDialogAlong();
     void knowsWhichKeypadAnEditWants();
     void keepsTheUnitAndThePagesSetting();
@@ -100,6 +121,41 @@ void tst_samples::hidesAFinishedDialogAndShowsItAgain()
         QVERIFY(!dialog->isVisible());
         QCOMPARE(screen.currentWidget(), &page);
     }
+}
+
+void tst_samples::comesBackToTheDialogBelow()
+{
+    screen_t screen;
+    QWidget page;
+    screen.showPage(&page);
+    screen.show();
+    QDialog* const lower = new QDialog;
+    QDialog* const upper = new QDialog;
+    dialogPage_t lowerPage(lower);
+    dialogPage_t upperPage(upper);
+    lowerPage.show();
+    upperPage.show();
+    upper->accept();
+    QCOMPARE(screen.currentWidget(), static_cast<QWidget*>(lower));
+    lower->accept();
+    QCOMPARE(screen.currentWidget(), &page);
+}
+
+void tst_samples::keepsADialogThatIsShownAgainWhenItFinishes()
+{
+    screen_t screen;
+    QWidget page;
+    screen.showPage(&page);
+    screen.show();
+    QDialog* const dialog = new QDialog;
+    stubborn_t owner(dialog);
+    connect(dialog, SIGNAL(finished(int)), &owner, SLOT(showAgain()));
+    owner.page.show();
+    dialog->reject();
+    QCOMPARE(screen.currentWidget(), static_cast<QWidget*>(dialog));
+    QVERIFY(dialog->isVisible());
+    dialog->reject();
+    QCOMPARE(screen.currentWidget(), &page);
 }
 
 void tst_samples::survivesAPageThatTakesItsDialogAlong()
