@@ -42,6 +42,8 @@ QMap<QString, QStringList> const ANSWERS = {
     {"correctionEnabled", {"correctionEnabled", "correctionEnabled", "correctionEnabled"}},
     {"correctionMaxAge", {"correctionMaxAge", "correctionMaxAge", "correctionMaxAge"}},
     {"ethernetConfig", {"ethernetConfig", "ethernetConfig"}},
+    {"activePort", QStringList("activePort") + melvox_test::times(6, "serialConfig") +
+                       melvox_test::times(6, "serialRs232Mode") + melvox_test::times(8, "vcomConfig")},
     {"serialConfig", melvox_test::times(6, "serialConfig")},
     {"serialRs232Mode", melvox_test::times(6, "serialRs232Mode")},
     {"vcomConfig", melvox_test::times(8, "vcomConfig")},
