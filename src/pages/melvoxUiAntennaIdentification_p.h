@@ -14,7 +14,7 @@ class dialogPage_t;
 class melvoxUiAntennaConfigDialog_t;
 
 /** The row of one antenna. */
-class melvoxUiAntennaIdentification_t::item_t : public QTreeWidgetItem
+class MELVOX_UI_HIDDEN melvoxUiAntennaIdentification_t::item_t : public QTreeWidgetItem
 {
 public:
     explicit item_t(brel_common_qt::melvoxAntenna_t antenna);
@@ -33,7 +33,7 @@ private:
     brel_common_qt::melvoxAntennaHeight_t m_height;
 };
 
-struct melvoxUiAntennaIdentification_t::privateData_t
+struct MELVOX_UI_HIDDEN melvoxUiAntennaIdentification_t::privateData_t
 {
     explicit privateData_t(brel_common_qt::remoteMelvoxDevice_t* device_);
 

@@ -10,7 +10,7 @@ namespace brel_common_qt_gui
 {
 
 /** The row of one correction satellite. */
-class melvoxUiCorrectionSatSelectDialog_t::satItem_t : public QTreeWidgetItem
+class MELVOX_UI_HIDDEN melvoxUiCorrectionSatSelectDialog_t::satItem_t : public QTreeWidgetItem
 {
 public:
     explicit satItem_t(brel_common_qt::melvoxCorrectionSat_t const& sat);
@@ -29,7 +29,7 @@ private:
     unsigned int m_net; //!< the first net that it belongs to, 0 for none
 };
 
-struct melvoxUiCorrectionSatSelectDialog_t::privateData_t
+struct MELVOX_UI_HIDDEN melvoxUiCorrectionSatSelectDialog_t::privateData_t
 {
     explicit privateData_t(brel_common_qt::remoteMelvoxDevice_t* device_);
 

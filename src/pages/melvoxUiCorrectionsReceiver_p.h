@@ -17,7 +17,7 @@ class dialogPage_t;
 class melvoxUiCorrectionSatSelectDialog_t;
 
 /** The row of one satellite in the status table. */
-class melvoxUiCorrectionsReceiver_t::item_t : public QTreeWidgetItem
+class MELVOX_UI_HIDDEN melvoxUiCorrectionsReceiver_t::item_t : public QTreeWidgetItem
 {
 public:
     enum
@@ -46,7 +46,7 @@ private:
     bool m_active; //!< this satellite is the one in use
 };
 
-struct melvoxUiCorrectionsReceiver_t::privateData_t
+struct MELVOX_UI_HIDDEN melvoxUiCorrectionsReceiver_t::privateData_t
 {
     explicit privateData_t(brel_common_qt::remoteMelvoxDevice_t* device_);
 

@@ -13,7 +13,7 @@ namespace brel_common_qt_gui
 class dialogPage_t;
 class melvoxUiBasePositionDialog_t;
 
-struct melvoxUiDifferentialConfiguration_t::privateData_t
+struct MELVOX_UI_HIDDEN melvoxUiDifferentialConfiguration_t::privateData_t
 {
     explicit privateData_t(brel_common_qt::remoteMelvoxDevice_t* device_);
 

@@ -8,7 +8,7 @@
 namespace brel_common_qt_gui
 {
 
-struct melvoxUiDtmWarnDialog_t::privateData_t
+struct MELVOX_UI_HIDDEN melvoxUiDtmWarnDialog_t::privateData_t
 {
     Ui_melvoxUiDtmWarnDialog ui;
 };

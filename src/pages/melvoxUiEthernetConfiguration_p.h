@@ -11,7 +11,7 @@ namespace brel_common_qt_gui
 
 class ipAddressEdit_t;
 
-struct melvoxUiEthernetConfiguration_t::privateData_t
+struct MELVOX_UI_HIDDEN melvoxUiEthernetConfiguration_t::privateData_t
 {
     explicit privateData_t(brel_common_qt::remoteMelvoxDevice_t* device_);
     ~privateData_t();

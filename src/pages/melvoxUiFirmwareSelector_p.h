@@ -12,7 +12,7 @@ class dialogPage_t;
 class fileChooser_t;
 class melvoxUiUsbFirmwareSelectDialog_t;
 
-struct melvoxUiFirmwareSelector_t::privateData_t
+struct MELVOX_UI_HIDDEN melvoxUiFirmwareSelector_t::privateData_t
 {
     privateData_t();
     ~privateData_t();

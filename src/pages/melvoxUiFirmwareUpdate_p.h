@@ -16,7 +16,7 @@ class melvoxUiFirmwareSelector_t;
 class melvoxUiFirmwareVersionDisplay_t;
 
 /** A component of the package, which the operator can leave out. */
-class melvoxUiFirmwareUpdate_t::packageItem_t : public QTreeWidgetItem
+class MELVOX_UI_HIDDEN melvoxUiFirmwareUpdate_t::packageItem_t : public QTreeWidgetItem
 {
 public:
     packageItem_t(brel_common_qt::melvoxFirmwareScanRecord_t const& record, QString const& path_);
@@ -31,7 +31,7 @@ public:
 };
 
 /** How far one component has come. */
-class melvoxUiFirmwareUpdate_t::statusItem_t : public QTreeWidgetItem
+class MELVOX_UI_HIDDEN melvoxUiFirmwareUpdate_t::statusItem_t : public QTreeWidgetItem
 {
 public:
     explicit statusItem_t(packageItem_t const& package);
@@ -42,7 +42,7 @@ public:
     brel_common_qt::melvoxFirmwareComponent_t component;
 };
 
-struct melvoxUiFirmwareUpdate_t::privateData_t
+struct MELVOX_UI_HIDDEN melvoxUiFirmwareUpdate_t::privateData_t
 {
     explicit privateData_t(brel_common_qt::remoteMelvoxDevice_t* device_);
     ~privateData_t();

@@ -12,7 +12,7 @@ using namespace brel_common_qt;
 namespace brel_common_qt_gui
 {
 
-struct melvoxUiFirmwareVersionDisplay_t::privateData_t
+struct MELVOX_UI_HIDDEN melvoxUiFirmwareVersionDisplay_t::privateData_t
 {
     remoteMelvoxDevice_t* device;
     QTextEdit* textEdit;

@@ -13,7 +13,7 @@ namespace brel_common_qt_gui
 {
 
 /** The row of one constellation. */
-class melvoxUiNavigationMode_t::measUseUi_t
+class MELVOX_UI_HIDDEN melvoxUiNavigationMode_t::measUseUi_t
 {
 public:
     /** The name must outlive the row. */
@@ -35,7 +35,7 @@ private:
     bool setUi; //!< the combo was filled from the receiver once
 };
 
-struct melvoxUiNavigationMode_t::privateData_t
+struct MELVOX_UI_HIDDEN melvoxUiNavigationMode_t::privateData_t
 {
     explicit privateData_t(brel_common_qt::remoteMelvoxDevice_t* device_);
     ~privateData_t();

@@ -18,7 +18,7 @@ namespace brel_common_qt_gui
 {
 
 /** The row of one message. */
-class melvoxUiOutputMessages_t::item_t : public QTreeWidgetItem
+class MELVOX_UI_HIDDEN melvoxUiOutputMessages_t::item_t : public QTreeWidgetItem
 {
 public:
     explicit item_t(std::string const& msgName);
@@ -32,7 +32,7 @@ private:
     std::string m_msgName; //!< as the receiver spells it
 };
 
-struct melvoxUiOutputMessages_t::privateData_t
+struct MELVOX_UI_HIDDEN melvoxUiOutputMessages_t::privateData_t
 {
     explicit privateData_t(brel_common_qt::remoteMelvoxDevice_t* device_);
     ~privateData_t();

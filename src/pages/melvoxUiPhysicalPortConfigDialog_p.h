@@ -8,7 +8,7 @@
 namespace brel_common_qt_gui
 {
 
-struct melvoxUiPhysicalPortConfigDialog_t::privateData_t
+struct MELVOX_UI_HIDDEN melvoxUiPhysicalPortConfigDialog_t::privateData_t
 {
     explicit privateData_t(brel_common_qt::remoteMelvoxDevice_t* device_);
 

@@ -15,7 +15,7 @@ namespace brel_common_qt_gui
 {
 
 /** The row of one serial port. */
-class melvoxUiPortConfiguration_t::physicalItem_t : public QTreeWidgetItem
+class MELVOX_UI_HIDDEN melvoxUiPortConfiguration_t::physicalItem_t : public QTreeWidgetItem
 {
 public:
     physicalItem_t(brel_common_qt::melvoxPort_t port, bool isActivePort);
@@ -44,7 +44,7 @@ private:
 };
 
 /** The row of one Ethernet virtual port. */
-class melvoxUiPortConfiguration_t::virtualItem_t : public QTreeWidgetItem
+class MELVOX_UI_HIDDEN melvoxUiPortConfiguration_t::virtualItem_t : public QTreeWidgetItem
 {
 public:
     virtualItem_t(brel_common_qt::melvoxPort_t port, bool isActivePort);
@@ -71,7 +71,7 @@ private:
     brel_common_qt::melvoxVcomConfig_t m_config;
 };
 
-struct melvoxUiPortConfiguration_t::privateData_t
+struct MELVOX_UI_HIDDEN melvoxUiPortConfiguration_t::privateData_t
 {
     explicit privateData_t(brel_common_qt::remoteMelvoxDevice_t* device_);
     ~privateData_t();

@@ -11,7 +11,7 @@ namespace brel_common_qt_gui
 class dialogPage_t;
 class fileChooser_t;
 
-struct melvoxUiProfileDumper_t::privateData_t
+struct MELVOX_UI_HIDDEN melvoxUiProfileDumper_t::privateData_t
 {
     explicit privateData_t(brel_common_qt::remoteMelvoxDevice_t* device_);
     ~privateData_t();

@@ -14,7 +14,7 @@ class dialogPage_t;
 class fileChooser_t;
 class melvoxUiUsbProfileListDialog_t;
 
-struct melvoxUiProfileLoader_t::privateData_t
+struct MELVOX_UI_HIDDEN melvoxUiProfileLoader_t::privateData_t
 {
     explicit privateData_t(brel_common_qt::remoteMelvoxDevice_t* device_);
     ~privateData_t();

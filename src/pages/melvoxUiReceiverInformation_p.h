@@ -15,7 +15,7 @@ class melvoxUiFirmwareVersionDisplay_t;
 class melvoxVersionWarnDialog_t;
 class messageLights_t;
 
-struct melvoxUiReceiverInformation_t::privateData_t
+struct MELVOX_UI_HIDDEN melvoxUiReceiverInformation_t::privateData_t
 {
     explicit privateData_t(brel_common_qt::remoteMelvoxDevice_t* device_);
     ~privateData_t();

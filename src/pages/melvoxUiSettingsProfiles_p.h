@@ -13,7 +13,7 @@ namespace brel_common_qt_gui
 class dialogPage_t;
 
 /** A profile that the receiver keeps. */
-class melvoxUiSettingsProfiles_t::item_t : public QTreeWidgetItem
+class MELVOX_UI_HIDDEN melvoxUiSettingsProfiles_t::item_t : public QTreeWidgetItem
 {
 public:
     explicit item_t(std::string const& name_);
@@ -29,7 +29,7 @@ public:
     unsigned int tstamp; //!< seconds since 1970-01-01 00:00 UTC
 };
 
-struct melvoxUiSettingsProfiles_t::privateData_t
+struct MELVOX_UI_HIDDEN melvoxUiSettingsProfiles_t::privateData_t
 {
     explicit privateData_t(brel_common_qt::remoteMelvoxDevice_t* device_);
     ~privateData_t();

@@ -13,7 +13,7 @@ namespace brel_common_qt_gui
 {
 
 /** The row of one correction input: whether it is used, and how old its corrections may be. */
-class melvoxUiSolutionControl_t::corrUi_t
+class MELVOX_UI_HIDDEN melvoxUiSolutionControl_t::corrUi_t
 {
 public:
     corrUi_t(brel_common_qt::melvoxCorrectionType_t type, QLabel* enabledLabel, QComboBox* enabledCombo,
@@ -37,7 +37,7 @@ private:
     bool m_setMaxAge; //!< the edit was filled from the receiver once
 };
 
-struct melvoxUiSolutionControl_t::privateData_t
+struct MELVOX_UI_HIDDEN melvoxUiSolutionControl_t::privateData_t
 {
     explicit privateData_t(brel_common_qt::remoteMelvoxDevice_t* device_);
     ~privateData_t();

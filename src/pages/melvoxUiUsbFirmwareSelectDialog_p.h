@@ -13,7 +13,7 @@
 namespace brel_common_qt_gui
 {
 
-class melvoxUiUsbFirmwareSelectDialog_t::scanner_t : public brel_common_qt::fileScanner_t
+class MELVOX_UI_HIDDEN melvoxUiUsbFirmwareSelectDialog_t::scanner_t : public brel_common_qt::fileScanner_t
 {
 public:
     explicit scanner_t(QObject* parent);
@@ -25,7 +25,7 @@ protected:
     bool filter(QFileInfo const& fileInfo) override;
 };
 
-class melvoxUiUsbFirmwareSelectDialog_t::item_t : public QTreeWidgetItem
+class MELVOX_UI_HIDDEN melvoxUiUsbFirmwareSelectDialog_t::item_t : public QTreeWidgetItem
 {
 public:
     /** Takes the package over. */
@@ -38,7 +38,7 @@ private:
     Q_DISABLE_COPY(item_t)
 };
 
-struct melvoxUiUsbFirmwareSelectDialog_t::privateData_t
+struct MELVOX_UI_HIDDEN melvoxUiUsbFirmwareSelectDialog_t::privateData_t
 {
     privateData_t();
     ~privateData_t();

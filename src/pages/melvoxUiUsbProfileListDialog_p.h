@@ -12,7 +12,7 @@
 namespace brel_common_qt_gui
 {
 
-class melvoxUiUsbProfileListDialog_t::scanner_t : public brel_common_qt::fileScanner_t
+class MELVOX_UI_HIDDEN melvoxUiUsbProfileListDialog_t::scanner_t : public brel_common_qt::fileScanner_t
 {
 public:
     explicit scanner_t(QObject* parent);
@@ -22,7 +22,7 @@ protected:
     bool filter(QFileInfo const& fileInfo) override;
 };
 
-class melvoxUiUsbProfileListDialog_t::item_t : public QTreeWidgetItem
+class MELVOX_UI_HIDDEN melvoxUiUsbProfileListDialog_t::item_t : public QTreeWidgetItem
 {
 public:
     explicit item_t(QFileInfo const& fileInfo);
@@ -30,7 +30,7 @@ public:
     QString path; //!< with all its directories
 };
 
-struct melvoxUiUsbProfileListDialog_t::privateData_t
+struct MELVOX_UI_HIDDEN melvoxUiUsbProfileListDialog_t::privateData_t
 {
     Ui_melvoxUiUsbProfileListDialog ui;
     scanner_t* scanner; //!< the dialog's child

@@ -15,7 +15,7 @@ class remoteMelvoxDevice_t;
 namespace brel_common_qt_gui
 {
 
-struct melvoxUiVHDInfo_t::privateData_t
+struct MELVOX_UI_HIDDEN melvoxUiVHDInfo_t::privateData_t
 {
     explicit privateData_t(brel_common_qt::remoteMelvoxDevice_t* device_);
 

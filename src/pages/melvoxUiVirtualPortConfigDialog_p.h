@@ -11,7 +11,7 @@ namespace brel_common_qt_gui
 class ipAddressEdit_t;
 class ipPortEdit_t;
 
-struct melvoxUiVirtualPortConfigDialog_t::privateData_t
+struct MELVOX_UI_HIDDEN melvoxUiVirtualPortConfigDialog_t::privateData_t
 {
     explicit privateData_t(brel_common_qt::remoteMelvoxDevice_t* device_);
 

@@ -12,7 +12,7 @@ class dialogPage_t;
 class fileChooser_t;
 class melvoxUiUsbWebUiSelectDialog_t;
 
-struct melvoxUiWebInterface_t::privateData_t
+struct MELVOX_UI_HIDDEN melvoxUiWebInterface_t::privateData_t
 {
     explicit privateData_t(brel_common_qt::remoteMelvoxDevice_t* device_);
     ~privateData_t();

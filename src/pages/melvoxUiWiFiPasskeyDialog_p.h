@@ -8,7 +8,7 @@
 namespace brel_common_qt_gui
 {
 
-struct melvoxUiWiFiPasskeyDialog_t::privateData_t
+struct MELVOX_UI_HIDDEN melvoxUiWiFiPasskeyDialog_t::privateData_t
 {
     Ui_melvoxUiWiFiPasskeyDialog ui;
 };

@@ -22,7 +22,7 @@ QString versionText(std::vector<unsigned int> const& version)
 
 } // namespace
 
-struct melvoxVersionWarnDialog_t::privateData_t
+struct MELVOX_UI_HIDDEN melvoxVersionWarnDialog_t::privateData_t
 {
     Ui_melvoxVersionWarnDialog ui;
 };

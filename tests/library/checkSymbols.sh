@@ -33,5 +33,12 @@ if [ -n "$shown" ]; then
     bad=1
 fi
 
+within=$("$nm" -D --defined-only --demangle "$library" | sed 's/^[0-9a-f]* [A-Za-z] //' |
+    grep -E '^((vtable|typeinfo|typeinfo name) for )?brel_common_qt_gui::melvox[A-Za-z]*_t::[A-Za-z]+_t(::|$)')
+if [ -n "$within" ]; then
+    printf 'the library shows what lacks MELVOX_UI_HIDDEN:\n%s\n' "$within"
+    bad=1
+fi
+
 [ "$bad" = 0 ] && printf 'the symbols are as they should be\n'
 exit $bad
