@@ -1,7 +1,7 @@
 # One set of names for the modules of Qt 4, 5 and 6: melvox_qt_core, _widgets, _network, _test, _serialport.
 
 function(melvox_qt_module name)
-    add_library(melvox_qt_${name} INTERFACE IMPORTED)
+    add_library(melvox_qt_${name} INTERFACE)
     target_link_libraries(melvox_qt_${name} INTERFACE ${ARGN})
 endfunction()
 

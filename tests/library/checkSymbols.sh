@@ -24,6 +24,12 @@ if [ -n "$kit" ]; then
     bad=1
 fi
 
+needed=$(readelf -d "$library" | sed -n 's/.*(NEEDED).*\[\(.*\)\]/\1/p' | grep '^libmelvox')
+if [ -n "$needed" ]; then
+    printf 'the library asks for libraries of the development kit:\n%s\n' "$needed"
+    bad=1
+fi
+
 # errorText_t is declared with an inline destructor, so whoever uses it carries a copy of its table.
 shown=$("$nm" -D --defined-only --demangle "$library" | sed 's/^[0-9a-f]* [A-Za-z] //' |
     grep -E '^([A-Za-z_:]+ )?((vtable|typeinfo|typeinfo name) for |non-virtual thunk to )?brel_common_qt_gui::' |

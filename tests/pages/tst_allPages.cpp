@@ -1,6 +1,7 @@
 #include "allPages.h"
 
 #include "support/everything.h"
+#include "support/pageCreator.h"
 #include "support/pageTest.h"
 
 #include <QDialogButtonBox>
@@ -8,62 +9,19 @@
 #include <QScrollBar>
 #include <QTextEdit>
 
-#include <type_traits>
-
 using namespace brel_common_qt;
 using namespace brel_common_qt_gui;
 
 namespace
 {
 
-typedef QWidget* (*create_t)(remoteMelvoxDevice_t* device);
-
-/** How a page, a dialog on the receiver, and one without it are built. Other classes have no screen: null. */
-template <typename page_t> typename std::enable_if<std::is_base_of<QWidget, page_t>::value &&
-                                                       std::is_constructible<page_t, remoteMelvoxDevice_t*>::value &&
-                                                       !std::is_base_of<QDialog, page_t>::value,
-                                                   create_t>::type
-creator()
-{
-    return [](remoteMelvoxDevice_t* device) -> QWidget* { return new page_t(device); };
-}
-
-template <typename page_t>
-typename std::enable_if<std::is_base_of<QDialog, page_t>::value &&
-                            std::is_constructible<page_t, remoteMelvoxDevice_t*, QWidget*>::value,
-                        create_t>::type
-creator()
-{
-    return [](remoteMelvoxDevice_t* device) -> QWidget* { return new page_t(device, 0); };
-}
-
-template <typename page_t>
-typename std::enable_if<std::is_base_of<QDialog, page_t>::value &&
-                            !std::is_constructible<page_t, remoteMelvoxDevice_t*, QWidget*>::value,
-                        create_t>::type
-creator()
-{
-    return [](remoteMelvoxDevice_t*) -> QWidget* { return new page_t(static_cast<QWidget*>(0)); };
-}
-
-template <typename page_t> typename std::enable_if<!std::is_base_of<QWidget, page_t>::value, create_t>::type creator()
-{
-    return 0;
-}
-
-struct page_t
-{
-    char const* name;
-    create_t create;
-};
-
-#define MELVOX_PAGE(name) {#name, creator<name##_t>()},
-page_t const PAGES[] = {MELVOX_ALL_PAGES(MELVOX_PAGE)};
+#define MELVOX_PAGE(name) {#name, melvox_test::creator<name##_t>()},
+melvox_test::page_t const PAGES[] = {MELVOX_ALL_PAGES(MELVOX_PAGE)};
 #undef MELVOX_PAGE
 
-create_t creatorOf(QString const& name)
+melvox_test::create_t creatorOf(QString const& name)
 {
-    for (page_t const& page : PAGES)
+    for (melvox_test::page_t const& page : PAGES)
     {
         if (name == page.name)
             return page.create;
@@ -147,7 +105,7 @@ private slots:
 void tst_allPages::rows()
 {
     QTest::addColumn<QString>("name");
-    for (page_t const& page : PAGES)
+    for (melvox_test::page_t const& page : PAGES)
     {
         if (page.create)
             QTest::newRow(page.name) << QString(page.name);

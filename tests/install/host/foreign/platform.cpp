@@ -1,0 +1,18 @@
+#include "../platform.h"
+
+#include <brel_common_qt/remoteMelvoxDevice.h>
+
+namespace foreign
+{
+brel_common_qt::remotePort_t* createPort();
+}
+
+brel_common_qt::remotePort_t* host::createPort()
+{
+    return foreign::createPort();
+}
+
+void host::tellElevationMask(brel_common_qt::remoteMelvoxDevice_t* device, double degrees)
+{
+    device->setElevationMask(degrees);
+}
