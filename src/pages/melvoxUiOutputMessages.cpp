@@ -41,7 +41,8 @@ enum qualityChoice_t
 int const RATE_DIGITS = 6;
 
 char const* const SHOW_DTM_WARNING_KEY = "show_dtm_warning";
-char const* const CUSTOM_INTERVAL = "Custom Interval";
+char const* const CUSTOM_INTERVAL =
+    QT_TRANSLATE_NOOP("brel_common_qt_gui::melvoxUiOutputMessages_t", "Custom Interval");
 
 // The receiver calls what it cannot name so.
 char const* const NAK_MESSAGE = "??";

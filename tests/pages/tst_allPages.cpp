@@ -8,6 +8,7 @@
 #include <QGroupBox>
 #include <QScrollBar>
 #include <QTextEdit>
+#include <QTranslator>
 
 using namespace brel_common_qt;
 using namespace brel_common_qt_gui;
@@ -77,7 +78,10 @@ private:
     static QStringList cutOff(QWidget* page);
     static void press(QWidget* page, char const* slot);
 
+    QTranslator m_translator;
+
 private slots:
+    void initTestCase();
     void livesOnASilentReceiver_data() { rows(); }
     void livesOnASilentReceiver();
     void livesThroughEverythingAReceiverTells_data() { rows(); }
@@ -101,6 +105,16 @@ private slots:
     void cutsNothingOffWithTheLongestValues_data() { rows(); }
     void cutsNothingOffWithTheLongestValues();
 };
+
+/** The same rules hold in another language, whose file this variable names. */
+void tst_allPages::initTestCase()
+{
+    QByteArray const translation = qgetenv("MELVOX_TEST_TRANSLATION");
+    if (translation.isEmpty())
+        return;
+    QVERIFY(m_translator.load(QFile::decodeName(translation)));
+    QCoreApplication::installTranslator(&m_translator);
+}
 
 void tst_allPages::rows()
 {
