@@ -1,0 +1,157 @@
+"""Changes the pages one place at a time and asks their tests; see tools/mutate."""
+import argparse
+import json
+import os
+import pathlib
+import random
+import re
+import shlex
+import subprocess
+import sys
+import tempfile
+
+ROOT = pathlib.Path(__file__).resolve().parent.parent
+TEST_SECONDS = 60
+
+# What is found, and what may stand there instead. Only code is looked at: no comments, no preprocessor.
+OPERATORS = {" < ": [" <= "], " <= ": [" < "], " > ": [" >= "], " >= ": [" > "], " == ": [" != "], " != ": [" == "],
+             " && ": [" || "], " || ": [" && "], " + ": [" - "], " - ": [" + "], " * ": [" / "], " / ": [" * "],
+             "true": ["false"], "false": ["true"]}
+TOKEN = re.compile(
+    r'(?P<string>"(?:[^"\\\n]|\\.)*")'
+    r"|(?P<character>'(?:[^'\\]|\\.)')"
+    r"|(?P<number>(?<![\w.])\d+(?:\.\d+)?\b)"
+    r"|(?P<operator> (?:<=|>=|==|!=|&&|\|\||[<>+\-*/]) |\b(?:true|false)\b)"
+    r"|(?P<negation>(?<=[( ])!(?=[\w(]))")
+COMMENT = re.compile(r"/\*.*?\*/|//[^\n]*|^ *#[^\n]*", re.S | re.M)
+STATEMENT = re.compile(r"^ {4,}(?:return )?[\w>.\-:&()\*]+\([^;{}]*\);$", re.M)
+
+
+def code_only(text):
+    """The text with everything that is no code blanked, at the same places."""
+    return COMMENT.sub(lambda match: re.sub(r"[^\n]", " ", match.group()), text)
+
+
+def number_beside(number):
+    return number + "1" if "." in number else str(int(number) + 1)
+
+
+def changes_of(text):
+    """All (start, end, instead) of a source."""
+    code = code_only(text)
+    changes = []
+    for match in TOKEN.finditer(code):
+        kind, found = match.lastgroup, match.group()
+        if kind == "string":
+            changes.append((*match.span(), found[:-1] + '~"'))
+        elif kind == "number":
+            changes.append((*match.span(), number_beside(found)))
+        elif kind == "operator":
+            changes += [(*match.span(), instead) for instead in OPERATORS[found]]
+        elif kind == "negation":
+            changes.append((*match.span(), ""))
+    for match in STATEMENT.finditer(code):
+        if not match.group().lstrip().startswith("return"):
+            changes.append((*match.span(), "    ;"))
+    return changes
+
+
+class Workshop:
+    def __init__(self, build):
+        self.build = build
+        commands = json.loads((build / "compile_commands.json").read_text())
+        self.commands = {pathlib.Path(entry["file"]): entry for entry in commands}
+        self.folder = pathlib.Path(tempfile.mkdtemp(prefix="mutate-"))
+        self.environment = dict(os.environ, QT_QPA_PLATFORM="offscreen", TZ="UTC", LC_ALL="C.UTF-8")
+
+    def build_targets(self, targets):
+        subprocess.run(["cmake", "--build", self.build, "--target", *targets], check=True, stdout=subprocess.DEVNULL)
+
+    def library_with(self, source, text):
+        """The library with another text of one source; nothing when it does not compile."""
+        changed = self.folder / source.name
+        changed.write_text(text)
+        entry = self.commands[source]
+        words = [word for word in shlex.split(entry["command"]) if not word.endswith("ccache")]
+        original = (self.build / words[words.index("-o") + 1]).resolve()
+        made = self.folder / "changed.o"
+        words[words.index("-o") + 1] = str(made)
+        words = [str(changed) if word == str(source) else word for word in words]
+        # A change may leave something unused; whether it is noticed is for the test to say.
+        if subprocess.run([*words, "-w"], cwd=entry["directory"], capture_output=True).returncode:
+            return None
+        objects = [str(path) for path in self.objects() if path.resolve() != original]
+        # By this name the test asks for the library, and takes the one that is there already.
+        name = os.readlink(next((self.build / "lib").glob("libmelvox_ui*.so")))
+        library = self.folder / name
+        subprocess.run(["c++", "-shared", f"-Wl,-soname,{name}", "-o", library, made, *objects], check=True)
+        return library
+
+    def objects(self):
+        return sorted((self.build / "src" / "CMakeFiles" / "melvox_ui.dir").rglob("*.o"))
+
+    def passes(self, test, library):
+        environment = dict(self.environment, LD_PRELOAD=str(library)) if library else self.environment
+        try:
+            done = subprocess.run([self.build / "bin" / test], env=environment, capture_output=True,
+                                  timeout=TEST_SECONDS)
+        except subprocess.TimeoutExpired:
+            return False
+        return done.returncode == 0
+
+
+def told(source, text, change):
+    start, end, instead = change
+    line = text.count("\n", 0, start) + 1
+    return f"{source.relative_to(ROOT)}:{line}: {text[start:end].strip()}  ->  {instead.strip() or '(nothing)'}"
+
+
+def check_page(shop, page, count, chance):
+    source = ROOT / "src" / "pages" / f"{page}.cpp"
+    test = f"tst_{page}"
+    text = source.read_text()
+    if not shop.passes(test, None):
+        sys.exit(f"mutate: {test} fails as it is; mend that first")
+    changes = changes_of(text)
+    if count and len(changes) > count:
+        changes = sorted(chance.sample(changes, count))
+    killed, survivors = 0, []
+    for change in changes:
+        start, end, instead = change
+        library = shop.library_with(source, text[:start] + instead + text[end:])
+        if library is None:
+            continue
+        if shop.passes(test, library):
+            survivors.append(told(source, text, change))
+        else:
+            killed += 1
+    return killed, survivors
+
+
+def main():
+    parser = argparse.ArgumentParser(prog="tools/mutate")
+    parser.add_argument("build", type=pathlib.Path, help=argparse.SUPPRESS)
+    parser.add_argument("pages", nargs="*", metavar="PAGE", help="such as melvoxUiSolutionControl; all unless told")
+    parser.add_argument("--changes", type=int, default=20, help="changes drawn of each page; 0: all")
+    parser.add_argument("--seed", type=int, default=1)
+    options = parser.parse_intermixed_args()
+    known = sorted(path.stem for path in (ROOT / "src" / "pages").glob("*.cpp"))
+    unknown = [page for page in options.pages if page not in known]
+    if unknown:
+        parser.error(f"there is no page {unknown[0]}; the pages are: {', '.join(known)}")
+    pages = options.pages or known
+    shop = Workshop(options.build.resolve())
+    shop.build_targets([f"tst_{page}" for page in pages])
+    all_killed, all_survivors = 0, 0
+    for page in pages:
+        killed, survivors = check_page(shop, page, options.changes, random.Random(f"{options.seed} {page}"))
+        print(f"{page}: {killed} of {killed + len(survivors)} noticed", flush=True)
+        for survivor in survivors:
+            print(f"    {survivor}", flush=True)
+        all_killed += killed
+        all_survivors += len(survivors)
+    total = all_killed + all_survivors
+    print(f"{all_killed} of {total} noticed, {100.0 * all_killed / max(total, 1):.1f} %")
+
+
+main()
