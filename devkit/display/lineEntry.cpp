@@ -119,9 +119,16 @@ bool isShownWhole(QLineEdit const* edit)
     return !edit->inputMask().isEmpty() && edit->echoMode() == QLineEdit::Normal;
 }
 
-QString restorableText(QLineEdit const* edit)
+/** One by one, each in its place: what is put in together closes up over the blanks. */
+void insertUnderMask(QPointer<QLineEdit> const& edit, QString const& text)
 {
-    return isShownWhole(edit) ? edit->displayText() : edit->text();
+    for (int i = 0; i < text.size() && edit; ++i)
+    {
+        if (text.at(i) == blankOf(edit->inputMask()))
+            continue;
+        edit->setCursorPosition(i);
+        edit->insert(text.at(i));
+    }
 }
 
 } // namespace
@@ -177,7 +184,7 @@ void lineEntry_t::begin(QLineEdit* edit)
 {
     end();
     m_edit = edit;
-    m_before = restorableText(edit);
+    m_before = wholeText(edit);
     connect(edit, &QLineEdit::textChanged, this, &lineEntry_t::changed);
     connect(edit, &QLineEdit::cursorPositionChanged, this, &lineEntry_t::changed);
     connect(edit, &QLineEdit::selectionChanged, this, &lineEntry_t::changed);
@@ -193,30 +200,28 @@ void lineEntry_t::end()
 
 void lineEntry_t::restore()
 {
-    if (!edit() || restorableText(edit()) == m_before)
-        return;
-    // As an edit, not setText(): composites follow textEdited() and must hear that the text is the old one again.
-    edit()->selectAll();
-    edit()->del();
-    if (edit() && isShownWhole(edit()))
-        insertUnderMask();
-    else if (edit())
-        edit()->insert(m_before);
-    // A text that the validator refuses can be set all the same, as it had been.
-    if (edit() && restorableText(edit()) != m_before)
-        edit()->setText(m_before);
+    if (edit() && wholeText(edit()) != m_before)
+        replace(edit(), m_before);
 }
 
-/** One by one, each in its place: what is put in together closes up over the blanks. */
-void lineEntry_t::insertUnderMask()
+QString lineEntry_t::wholeText(QLineEdit const* edit)
 {
-    for (int i = 0; i < m_before.size() && edit(); ++i)
-    {
-        if (m_before.at(i) == blankOf(edit()->inputMask()))
-            continue;
-        edit()->setCursorPosition(i);
-        edit()->insert(m_before.at(i));
-    }
+    return isShownWhole(edit) ? edit->displayText() : edit->text();
+}
+
+void lineEntry_t::replace(QLineEdit* lineEdit, QString const& text)
+{
+    QPointer<QLineEdit> const edit = lineEdit;
+    // As an edit, not setText(): composites follow textEdited() and must hear that the text is another one.
+    edit->selectAll();
+    edit->del();
+    if (edit && isShownWhole(edit))
+        insertUnderMask(edit, text);
+    else if (edit)
+        edit->insert(text);
+    // A text that the validator refuses can be set all the same, as it had been.
+    if (edit && wholeText(edit) != text)
+        edit->setText(text);
 }
 
 bool lineEntry_t::admits(QChar character) const

@@ -50,6 +50,11 @@ public:
     /** Puts a minus sign before the number, or takes it away. */
     void toggleSign();
 
+    /** The text with the blanks of a mask. */
+    static QString wholeText(QLineEdit const* edit);
+    /** Puts this text, as wholeText() gives it, in place of the edit's as if it had been typed. */
+    static void replace(QLineEdit* edit, QString const& text);
+
     /** What the operator is to enter: the edit's "keypadPrompt", else its accessible name, else its caption. */
     static QString promptOf(QLineEdit* edit);
     static bool isNumeric(QLineEdit* edit);
@@ -59,7 +64,6 @@ signals:
     void changed();
 
 private:
-    void insertUnderMask();
     void sendKey(int key, QString const& text = QString());
 
     // Not as a line edit: while it is being destroyed it is none any more.

@@ -4,6 +4,8 @@
 #include "display/displayWindow.h"
 #include "display/options.h"
 #include "display/pageRegistry.h"
+#include "display/recording.h"
+#include "display/replay.h"
 #include "display/tour.h"
 #include "display/uiSettings.h"
 #include "display/unit.h"
@@ -27,19 +29,53 @@ int answer(parsedOptions_t const& parsed)
     return refused ? EXIT_REFUSED : 0;
 }
 
-int run(options_t const& options)
+/** False when it cannot even begin, and nothing is to be started. */
+bool isReady(options_t& options, recording_t& recording, replay_t& replay)
+{
+    QString fault;
+    if (!options.replayFile.isEmpty() && !replay.load(options, allPages(), fault))
+    {
+        std::fprintf(stderr, "melvox_display: %s\n", qPrintable(fault));
+        return false;
+    }
+    if (!options.replayFile.isEmpty() && !replay.note().isEmpty())
+        std::fprintf(stderr, "melvox_display: %s\n", qPrintable(replay.note()));
+    if (options.recordFile.isEmpty() || recording.open(options.recordFile, fault))
+        return true;
+    std::fprintf(stderr, "melvox_display: --record: %s.\n", qPrintable(fault));
+    return false;
+}
+
+void tellHowItWent(replay_t const& replay)
+{
+    for (QString const& difference : replay.differences())
+        std::fprintf(stderr, "melvox_display: %s\n", qPrintable(difference));
+    std::printf("The journal is over: %d differences.\n", int(replay.differences().size()));
+    std::fflush(stdout);
+}
+
+int run(options_t const& options, recording_t& recording, replay_t& replay)
 {
     // Before any page, and pictures of the drives' dialogs need drives, or the lack of them.
     std::unique_ptr<brel_common_qt::usbDriveManager_t> drives;
     melvox_kit::setUsbRoot(options.usbDir);
-    if (!options.usbDir.isEmpty() || !options.tourDir.isEmpty())
+    if (!options.usbDir.isEmpty() || !options.tourDir.isEmpty() || options.hasDrives)
         drives = std::make_unique<brel_common_qt::usbDriveManager_t>();
     unit_t unit(options.connection);
     uiSettings_t settings(options.settingsFile);
     settings.applyPreferences(options);
+    if (!options.recordFile.isEmpty())
+        recording.begin(options, unit, settings);
     displayWindow_t window(allPages(), &unit, &settings, options.size);
+    if (unit.replay())
+    {
+        replay.play(window, unit);
+        QObject::connect(&replay, &replay_t::ended, [&replay]() { tellHowItWent(replay); });
+    }
     unit.start();
     window.showFirstPage(options.page);
+    if (!options.recordFile.isEmpty())
+        recording.watch(window, options.page);
     window.show();
     if (!options.tourDir.isEmpty())
         return walkTour(window, unit, options.tourDir);
@@ -90,9 +126,13 @@ int main(int argc, char** argv)
     for (int i = 0; i < argc; ++i)
         arguments << QString::fromLocal8Bit(argv[i]);
     // Help and refusals must come out where there is no screen to start an application on.
-    parsedOptions_t const parsed = parseOptions(withoutToolkitOptions(arguments), pageNames(allPages()));
+    parsedOptions_t parsed = parseOptions(withoutToolkitOptions(arguments), pageNames(allPages()));
     if (parsed.result != parsedOptions_t::RUN)
         return answer(parsed);
+    recording_t recording;
+    replay_t replay;
+    if (!isReady(parsed.options, recording, replay))
+        return EXIT_REFUSED;
     if (!parsed.options.tourDir.isEmpty())
         goWithoutScreen();
 
@@ -100,5 +140,5 @@ int main(int argc, char** argv)
     QCoreApplication::setAttribute(Qt::AA_DontUseNativeDialogs);
     QApplication application(argc, argv);
     applyDisplayStyle(application);
-    return run(parsed.options);
+    return run(parsed.options, recording, replay);
 }

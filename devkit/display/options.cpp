@@ -14,6 +14,7 @@ using namespace brel_common_qt;
 
 QSize const SMALLEST(640, 400);
 QSize const LARGEST(7680, 4320);
+double const FASTEST_REPLAY = 1000.0;
 
 QString tr(char const* text)
 {
@@ -34,6 +35,11 @@ QList<QCommandLineOption> knownOptions()
         {"units", tr("Heights and distances in m or ft, for this run."), "m|ft"},
         {"format", tr("Positions in deg, dm or dms, for this run."), "deg|dm|dms"},
         {"settings", tr("Keeps the user-interface settings in this file."), tr("FILE")},
+        {"record", tr("Writes a journal of all messages and all that the operator does to this file."), tr("FILE")},
+        {"replay", tr("The receiver is played from this journal."), tr("FILE")},
+        {"replay-actions", tr("With --replay: the operator is played too.")},
+        {"replay-speed", tr("With --replay: 2 plays at twice the speed, 0 as fast as the display follows."),
+         tr("FACTOR")},
         {QStringList{"h", "help"}, tr("Shows this text.")},
         {QStringList{"v", "version"}, tr("Shows the version.")},
     };
@@ -152,6 +158,36 @@ QString readFileName(QString const& option, QString const& text, QString& name)
     return text.isEmpty() ? tr("%1 needs a name.").arg(option) : QString();
 }
 
+QString readSpeed(QString const& text, options_t& options)
+{
+    bool isNumber = false;
+    double const speed = text.toDouble(&isNumber);
+    options.connection.replaySpeed = speed;
+    if (isNumber && speed >= 0.0 && speed <= FASTEST_REPLAY)
+        return QString();
+    return tr("--replay-speed takes a factor from 0 to %1, not \"%2\".").arg(FASTEST_REPLAY).arg(text);
+}
+
+QString readReplay(QCommandLineParser const& parser, options_t& options)
+{
+    QStringList faults;
+    options.replayActions = parser.isSet("replay-actions");
+    if (parser.isSet("replay-speed"))
+        faults << readSpeed(parser.value("replay-speed"), options);
+    if (!parser.isSet("replay"))
+        return options.replayActions || parser.isSet("replay-speed") ? tr("--replay-actions and --replay-speed need "
+                                                                          "--replay FILE.")
+                                                                     : QString();
+    faults << readFileName("--replay", parser.value("replay"), options.replayFile);
+    for (char const* name : {"connect", "page", "size", "units", "format", "settings", "tour"})
+    {
+        if (parser.isSet(name))
+            faults << tr("A journal brings what --%1 says of its own: leave it out with --replay.").arg(name);
+    }
+    faults.removeAll(QString());
+    return faults.value(0);
+}
+
 QString readValues(QCommandLineParser const& parser, QStringList const& pages, options_t& options)
 {
     QStringList faults;
@@ -171,6 +207,9 @@ QString readValues(QCommandLineParser const& parser, QStringList const& pages, o
         faults << readFormat(parser.value("format"), options);
     if (parser.isSet("settings"))
         faults << readFileName("--settings", parser.value("settings"), options.settingsFile);
+    if (parser.isSet("record"))
+        faults << readFileName("--record", parser.value("record"), options.recordFile);
+    faults << readReplay(parser, options);
     faults.removeAll(QString());
     return faults.value(0);
 }

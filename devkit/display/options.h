@@ -7,7 +7,13 @@
 #include <QString>
 #include <QStringList>
 
+#include <memory>
 #include <optional>
+
+namespace melvox_link
+{
+struct journal_t;
+}
 
 namespace melvox_display
 {
@@ -19,7 +25,8 @@ struct connection_t
     {
         SIMULATED, //!< in this very process
         TCP,
-        SERIAL
+        SERIAL,
+        REPLAY //!< what a journal says that it told
     };
 
     kind_t kind = SIMULATED;
@@ -27,6 +34,8 @@ struct connection_t
     int port = 0;
     QString device;
     int baud = 115200;
+    std::shared_ptr<melvox_link::journal_t const> journal;
+    double replaySpeed = 1.0;
 };
 
 /** What the command line asks for. */
@@ -40,6 +49,10 @@ struct options_t
     std::optional<brel_common_qt::distanceUnit_t> units; //!< not given: as stored
     std::optional<brel_common_qt::latLonFormat_t> format;
     QString settingsFile; //!< empty: the user's own
+    QString recordFile;   //!< empty: no journal is written
+    QString replayFile;   //!< empty: none is played
+    bool replayActions = false;
+    bool hasDrives = false; //!< USB drives even without a folder for them
 };
 
 /** What to do with a command line. */

@@ -85,12 +85,28 @@ void uiSettings_t::applyPreferences(options_t const& options)
 
 void uiSettings_t::saveUnit()
 {
-    write(UNITS, UNIT_NAMES.value(guiSettings_t::get().distanceUnit()));
+    write(UNITS, unitName());
 }
 
 void uiSettings_t::saveFormat()
 {
-    write(FORMAT, FORMAT_NAMES.value(guiSettings_t::get().latLonFormat()));
+    write(FORMAT, formatName());
+}
+
+QString uiSettings_t::unitName()
+{
+    return UNIT_NAMES.value(guiSettings_t::get().distanceUnit());
+}
+
+QString uiSettings_t::formatName()
+{
+    return FORMAT_NAMES.value(guiSettings_t::get().latLonFormat());
+}
+
+QByteArray uiSettings_t::contents() const
+{
+    QFile file(m_file);
+    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
 }
 
 QString uiSettings_t::lastPage() const

@@ -3,6 +3,7 @@
 
 #include "display/options.h"
 
+#include <QByteArray>
 #include <QObject>
 #include <QString>
 
@@ -36,6 +37,13 @@ public:
     /** Sets units and format for all pages to what is stored, or to what this run was started with, and from then on
      *  stores what the operator changes. */
     void applyPreferences(options_t const& options);
+
+    /** What all pages show now, as the command line says it. */
+    static QString unitName();
+    static QString formatName();
+
+    /** The file as it is. */
+    QByteArray contents() const;
 
     QString lastPage() const;
     void setLastPage(QString const& name);

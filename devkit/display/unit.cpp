@@ -4,6 +4,7 @@
 #include "brel_common_qt/remoteMelvoxDevice.h"
 #include "link/linkTap.h"
 #include "link/localLink.h"
+#include "link/replayLink.h"
 #include "link/serialLink.h"
 #include "link/tcpLink.h"
 #include "receiver/receiver.h"
@@ -25,6 +26,8 @@ melvox_kit::linkKind_t kindOf(connection_t const& connection)
     {
     case connection_t::TCP:
         return melvox_kit::LINK_TCP;
+    case connection_t::REPLAY:
+        return connection.journal->header.value("tcp").toBool() ? melvox_kit::LINK_TCP : melvox_kit::LINK_SERIAL;
     case connection_t::SERIAL:
     case connection_t::SIMULATED:
         return melvox_kit::LINK_SERIAL;
@@ -34,7 +37,8 @@ melvox_kit::linkKind_t kindOf(connection_t const& connection)
 
 } // namespace
 
-unit_t::unit_t(connection_t const& connection, QObject* parent) : QObject(parent), m_started(false), m_wasOpen(false)
+unit_t::unit_t(connection_t const& connection, QObject* parent)
+    : QObject(parent), m_replay(nullptr), m_started(false), m_wasOpen(false)
 {
     melvox_link::link_t* link = createLink(connection);
     m_tap = std::make_unique<melvox_link::linkTap_t>(link);
@@ -81,10 +85,20 @@ melvox_link::link_t* unit_t::createLink(connection_t const& connection)
         return keepStream(std::make_unique<melvox_link::tcpLink_t>(connection.host, quint16(connection.port)));
     case connection_t::SERIAL:
         return keepStream(std::make_unique<melvox_link::serialLink_t>(connection.device, connection.baud));
+    case connection_t::REPLAY:
+        return createReplay(connection);
     case connection_t::SIMULATED:
         break;
     }
     return createSimulated();
+}
+
+melvox_link::link_t* unit_t::createReplay(connection_t const& connection)
+{
+    auto link = std::make_unique<melvox_link::replayLink_t>(connection.journal);
+    link->setSpeed(connection.replaySpeed);
+    m_replay = link.get();
+    return keepStream(std::move(link));
 }
 
 void unit_t::start()

@@ -20,6 +20,7 @@ namespace melvox_link
 {
 class linkTap_t;
 class localLinkPair_t;
+class replayLink_t;
 } // namespace melvox_link
 
 namespace melvox_receiver
@@ -52,6 +53,9 @@ public:
     /** Null when the receiver is somewhere else. */
     melvox_link::localLinkPair_t* localLink() const { return m_pair.get(); }
 
+    /** Null when the receiver is not a journal. */
+    melvox_link::replayLink_t* replay() const { return m_replay; }
+
     /** Also of a receiver at the far end of a line. */
     bool isSimulated() const;
     QString description() const;
@@ -68,12 +72,14 @@ private:
     melvox_link::link_t* createLink(connection_t const& connection);
     template <typename link_t> melvox_link::link_t* keepStream(std::unique_ptr<link_t> link);
     melvox_link::link_t* createSimulated();
+    melvox_link::link_t* createReplay(connection_t const& connection);
 
     std::unique_ptr<melvox_receiver::simClock_t> m_clock;
     std::unique_ptr<melvox_link::localLinkPair_t> m_pair;
     std::unique_ptr<melvox_receiver::receiver_t> m_receiver;
     std::unique_ptr<melvox_link::link_t> m_stream;
     std::function<void()> m_startStream;
+    melvox_link::replayLink_t* m_replay;
     std::unique_ptr<melvox_link::linkTap_t> m_tap;
     std::unique_ptr<brel_common_qt::remoteMelvoxDevice_t> m_device;
     bool m_started;

@@ -58,7 +58,7 @@ QVariant fromNumber(double number)
 
 bool fromJson(QJsonValue const& json, QVariant& value, QString& reason);
 
-bool fromObject(QJsonObject const& object, QVariant& value, QString& reason)
+bool valueFromObject(QJsonObject const& object, QVariant& value, QString& reason)
 {
     if (object.size() == 1 && object.contains(BASE64))
     {
@@ -96,7 +96,7 @@ bool fromJson(QJsonValue const& json, QVariant& value, QString& reason)
         value = json.toString();
         return true;
     case QJsonValue::Object:
-        return fromObject(json.toObject(), value, reason);
+        return valueFromObject(json.toObject(), value, reason);
     case QJsonValue::Array:
     {
         QVariantList list;
@@ -120,12 +120,17 @@ bool fromJson(QJsonValue const& json, QVariant& value, QString& reason)
 
 } // namespace
 
-QByteArray toLine(message_t const& message)
+QJsonObject toObject(message_t const& message)
 {
     QJsonObject object = {{"kind", kindName(message.kind)}, {"group", message.group}};
     if (message.value.isValid())
         object.insert("value", toJson(message.value));
-    return QJsonDocument(object).toJson(QJsonDocument::Compact) + '\n';
+    return object;
+}
+
+QByteArray toLine(message_t const& message)
+{
+    return QJsonDocument(toObject(message)).toJson(QJsonDocument::Compact) + '\n';
 }
 
 bool fromLine(QByteArray const& line, message_t& message, QString& reason)
@@ -137,7 +142,11 @@ bool fromLine(QByteArray const& line, message_t& message, QString& reason)
         reason = error.errorString();
         return false;
     }
-    QJsonObject const object = document.object();
+    return fromObject(document.object(), message, reason);
+}
+
+bool fromObject(QJsonObject const& object, message_t& message, QString& reason)
+{
     message_t found;
     if (!kindFromName(object.value("kind").toString(), found.kind))
     {

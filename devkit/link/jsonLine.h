@@ -4,6 +4,7 @@
 #include "link/message.h"
 
 #include <QByteArray>
+#include <QJsonObject>
 
 namespace melvox_link
 {
@@ -13,6 +14,10 @@ QByteArray toLine(message_t const& message);
 
 /** Reads a line, with or without its line feed. False, and `reason` for people, when it is no message. */
 bool fromLine(QByteArray const& line, message_t& message, QString& reason);
+
+/** The same for lines that tell more than the message. */
+QJsonObject toObject(message_t const& message);
+bool fromObject(QJsonObject const& object, message_t& message, QString& reason);
 
 } // namespace melvox_link
 

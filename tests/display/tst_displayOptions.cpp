@@ -173,6 +173,46 @@ private slots:
         QCOMPARE(parse({"--tour="}).result, parsedOptions_t::REFUSE);
     }
 
+    void takesJournals()
+    {
+        options_t const options =
+            parse({"--record", "a.jsonl", "--replay", "b.jsonl", "--replay-actions", "--replay-speed", "2.5"}).options;
+        QCOMPARE(options.recordFile, QString("a.jsonl"));
+        QCOMPARE(options.replayFile, QString("b.jsonl"));
+        QVERIFY(options.replayActions);
+        QCOMPARE(options.connection.replaySpeed, 2.5);
+        QVERIFY(!parse({"--replay", "b.jsonl"}).options.replayActions);
+        QCOMPARE(parse({"--replay", "b.jsonl"}).options.connection.replaySpeed, 1.0);
+    }
+
+    void refusesWhatDoesNotGoWithAJournal_data()
+    {
+        QTest::addColumn<QStringList>("arguments");
+        QTest::addColumn<QString>("text");
+        QTest::newRow("no name to record") << QStringList{"--record="} << "--record needs a name.";
+        QTest::newRow("no name to replay") << QStringList{"--replay="} << "--replay needs a name.";
+        QTest::newRow("actions of nothing")
+            << QStringList{"--replay-actions"} << "--replay-actions and --replay-speed need --replay FILE.";
+        QTest::newRow("negative speed") << QStringList{"--replay=a", "--replay-speed=-1"}
+                                        << "--replay-speed takes a factor from 0 to 1000, not \"-1\".";
+        QTest::newRow("word") << QStringList{"--replay=a", "--replay-speed=fast"}
+                              << "--replay-speed takes a factor from 0 to 1000, not \"fast\".";
+        QTest::newRow("another receiver")
+            << QStringList{"--replay=a", "--connect=tcp:host:5000"}
+            << "A journal brings what --connect says of its own: leave it out with --replay.";
+        QTest::newRow("another size") << QStringList{"--replay=a", "--size=800x480"}
+                                      << "A journal brings what --size says of its own: leave it out with --replay.";
+    }
+
+    void refusesWhatDoesNotGoWithAJournal()
+    {
+        QFETCH(QStringList, arguments);
+        QFETCH(QString, text);
+        parsedOptions_t const parsed = parse(arguments);
+        QCOMPARE(parsed.result, parsedOptions_t::REFUSE);
+        QCOMPARE(parsed.text, text);
+    }
+
     void listsTheOptionsWhenOneIsUnknown_data()
     {
         QTest::addColumn<QStringList>("arguments");
@@ -189,8 +229,9 @@ private slots:
         parsedOptions_t const parsed = parse(arguments);
         QCOMPARE(parsed.result, parsedOptions_t::REFUSE);
         QVERIFY2(parsed.text.startsWith(beginning), qPrintable(parsed.text));
-        QVERIFY2(parsed.text.endsWith("The options are: --page, --connect, --size, --usb, --tour, --units, --format, "
-                                      "--settings, --help, --version."),
+        QVERIFY2(parsed.text.endsWith(
+                     "The options are: --page, --connect, --size, --usb, --tour, --units, --format, "
+                     "--settings, --record, --replay, --replay-actions, --replay-speed, --help, --version."),
                  qPrintable(parsed.text));
     }
 

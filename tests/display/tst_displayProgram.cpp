@@ -1,6 +1,8 @@
+#include "link/journal.h"
 #include "support/test.h"
 
 #include <QDir>
+#include <QFile>
 #include <QImage>
 #include <QProcess>
 #include <QTemporaryDir>
@@ -64,6 +66,50 @@ private slots:
         QCOMPARE(outcome.exitCode, 2);
         QVERIFY2(outcome.errors.contains(part), qPrintable(outcome.errors));
         QVERIFY(outcome.output.isEmpty());
+    }
+
+    void aJournalWithAnErrorStartsNothing()
+    {
+        QTemporaryDir folder;
+        QString const file = folder.filePath("a.jsonl");
+        QFile journal(file);
+        QVERIFY(journal.open(QIODevice::WriteOnly));
+        journal.write("{\"journal\":\"melvox\",\"version\":9}\n");
+        journal.close();
+        outcome_t const played = run({"--replay", file, "--record", folder.filePath("b.jsonl")});
+        QCOMPARE(played.exitCode, 2);
+        QCOMPARE(played.errors,
+                 QString("melvox_display: %1:1: the journal has the format version 9; this program reads "
+                         "version 1\n")
+                     .arg(file));
+        QVERIFY(played.output.isEmpty());
+        QVERIFY(!QFile::exists(folder.filePath("b.jsonl")));
+        outcome_t const recorded = run({"--record", file});
+        QCOMPARE(recorded.exitCode, 2);
+        QVERIFY2(recorded.errors.contains("there is a file"), qPrintable(recorded.errors));
+    }
+
+    void aCrashLeavesAJournalThatCanBePlayed()
+    {
+        QTemporaryDir folder;
+        QString const file = folder.filePath("a.jsonl");
+        QProcess process;
+        QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+        environment.insert("QT_QPA_PLATFORM", "offscreen");
+        process.setProcessEnvironment(environment);
+        process.start(MELVOX_DISPLAY_PROGRAM, {"--record", file, "--settings", folder.filePath("display.conf")});
+        auto const isWritten = [&file]()
+        {
+            QFile journal(file);
+            return journal.open(QIODevice::ReadOnly) && journal.readAll().contains("\"kind\":\"report\"");
+        };
+        QVERIFY(melvox_test::waitFor(isWritten, 60000));
+        process.kill();
+        QVERIFY(process.waitForFinished());
+        melvox_link::journal_t journal;
+        QString fault;
+        QVERIFY2(melvox_link::readJournal(file, journal, fault), qPrintable(fault));
+        QVERIFY(!journal.isWhole);
     }
 
     void tourNeedsNoScreenAndListsItsPictures()
