@@ -131,8 +131,9 @@ bool actionPlayer_t::answer(action_t const& action, QString& reason)
     QMessageBox* box = openBox(screen());
     if (!box || box->text() != action.text)
     {
-        reason = box ? QString("the message box says \"%1\", not \"%2\"").arg(box->text(), action.text)
-                     : QString("there is no message box that says \"%1\"").arg(action.text);
+        reason = box ? QString("the message box says \"%1\", not \"%2\"")
+                           .arg(box->text().simplified(), action.text.simplified())
+                     : QString("there is no message box that says \"%1\"").arg(action.text.simplified());
         return false;
     }
     QStringList names;
@@ -182,7 +183,8 @@ QWidget* actionPlayer_t::rootOf(action_t const& action, QString& reason) const
     if (QDialog* card = screen()->dialogs()->currentCard())
     {
         QMessageBox* box = qobject_cast<QMessageBox*>(card);
-        reason = QString("a message box is in the way: \"%1\"").arg(box ? box->text() : card->windowTitle());
+        reason =
+            QString("a message box is in the way: \"%1\"").arg(box ? box->text().simplified() : card->windowTitle());
     }
     else if (screen()->currentPage() != action.page)
         reason = QString("the page \"%1\" is not shown, but \"%2\"").arg(action.page, screen()->currentPage());

@@ -243,8 +243,11 @@ void actionRecorder_t::tellRow(QWidget* viewport, QEvent* event, action_t::kind_
     QModelIndex const index = view->indexAt(static_cast<QMouseEvent*>(event)->pos());
     if (!index.isValid())
         return;
+    // Two quick taps on different rows choose one after the other.
+    if (index.siblingAtColumn(0) != view->currentIndex().siblingAtColumn(0))
+        action.kind = action_t::SELECT;
     action.row = rowOf(index);
-    action.text = index.sibling(index.row(), 0).data().toString();
+    action.text = index.siblingAtColumn(0).data().toString();
     emit acted(action);
 }
 
@@ -255,7 +258,7 @@ void actionRecorder_t::tellCurrentRow(QAbstractItemView* view)
     if (!index.isValid() || !placed(view, action))
         return;
     action.row = rowOf(index);
-    action.text = index.sibling(index.row(), 0).data().toString();
+    action.text = index.siblingAtColumn(0).data().toString();
     emit acted(action);
 }
 

@@ -50,7 +50,7 @@ void tellHowItWent(replay_t const& replay)
 {
     for (QString const& difference : replay.differences())
         std::fprintf(stderr, "melvox_display: %s\n", qPrintable(difference));
-    std::printf("The journal is over: %d differences.\n", int(replay.differences().size()));
+    std::printf("The journal is over. Differences: %d\n", int(replay.differences().size()));
     std::fflush(stdout);
 }
 

@@ -7,6 +7,7 @@
 #include "display/replay.h"
 #include "display/uiSettings.h"
 #include "display/unit.h"
+#include "support/dialogs.h"
 #include "support/operator.h"
 #include "support/test.h"
 
@@ -41,9 +42,11 @@ inline QStringList replayed(QString const& file)
     window.showFirstPage(options.page);
     window.show();
     bool const isOver = waitFor([&]() { return replay.isOver(); }, LONGEST_MS);
-    // One that nobody answered belongs to nobody.
+    // What nobody answered belongs to nobody.
     if (openBox())
         closeBox();
+    if (openFileDialog())
+        cancelFileDialog();
     if (!isOver)
         return {"the journal does not come to its end"};
     return replay.differences();

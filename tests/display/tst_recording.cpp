@@ -1,6 +1,7 @@
 #include "brel_common_qt/remoteMelvoxDevice.h"
 #include "brel_common_qt/textHelpers.h"
 #include "display/actionRecorder.h"
+#include "display/dialogHost.h"
 #include "display/displayStyle.h"
 #include "display/keypad.h"
 #include "display/recording.h"
@@ -12,6 +13,7 @@
 #include "melvox_ui/melvoxUiWiFiPasskeyDialog.h"
 #include "receiver/receiver.h"
 #include "receiver/simClock.h"
+#include "support/dialogs.h"
 #include "support/folder.h"
 #include "support/operator.h"
 #include "support/test.h"
@@ -84,6 +86,12 @@ struct recorded_t
     void tapIn(QString const& box, QString const& button)
     {
         tap(melvox_test::button(find<QDialogButtonBox>(page(), box), button));
+    }
+
+    void openFromMenu(QString const& entry)
+    {
+        tap(find<QPushButton>(window.get(), "menuButton"));
+        tap(find<QPushButton>(window.get(), entry));
     }
 
     void tapRow(QString const& tree, QString const& name)
@@ -206,6 +214,9 @@ private slots:
     void isRefusedAgain();
     void configuresAPortAgain();
     void takesAddressesOverDhcpAgain();
+    void leavesDialogsAgain();
+    void opensRowsAgain();
+    void loadsAFileAgain();
     void showsPositionsInTheUnitsOfThatTime();
     void tellsAPressBeforeWhatItSets();
     void neverWritesThePasskey();
@@ -272,11 +283,8 @@ void tst_recording::configuresAPortAgain()
 {
     std::unique_ptr<recorded_t> r = record("portConfiguration");
     QVERIFY(r->isReady);
-    for (char const* entry : {"nav_restart", "nav_portConfiguration"})
-    {
-        r->tap(find<QPushButton>(r->window.get(), "menuButton"));
-        r->tap(find<QPushButton>(r->window.get(), entry));
-    }
+    r->openFromMenu("nav_restart");
+    r->openFromMenu("nav_portConfiguration");
     r->tapIn("buttonBox", "Virtual");
     r->tapRow("virtualTreeWidget", "ETH3");
     r->tapIn("buttonBox", "Configure Port");
@@ -317,6 +325,73 @@ void tst_recording::takesAddressesOverDhcpAgain()
     QCOMPARE(linesWith(journal(), "link").size(), 3);
     QVERIFY(commandsIn(journal()).contains("ethernetConfig"));
     QCOMPARE(melvox_test::replayed(file), QStringList());
+}
+
+void tst_recording::leavesDialogsAgain()
+{
+    std::unique_ptr<recorded_t> r = record("restart");
+    QVERIFY(r->isReady);
+    r->openFromMenu("nav_customSat");
+    QDialog* const dialog = r->window->screen()->dialogs()->currentDialog();
+    QVERIFY(dialog);
+    QTest::keyClick(dialog, Qt::Key_Escape);
+    QVERIFY(!dialog->isVisible());
+    r->openFromMenu("nav_customSat");
+    r->tap(find<QPushButton>(r->window.get(), "backButton"));
+    QVERIFY(!dialog->isVisible());
+    QString const file = recorded_t::ended(r);
+    QCOMPARE(actionsIn(journal()), QStringList() << "page restart"
+                                                 << "page customSat"
+                                                 << "close melvoxUiCustomSatDialog"
+                                                 << "page customSat"
+                                                 << "back");
+    QCOMPARE(melvox_test::replayed(file), QStringList());
+}
+
+void tst_recording::opensRowsAgain()
+{
+    std::unique_ptr<recorded_t> r = record("portConfiguration");
+    QVERIFY(r->isReady);
+    r->tapRow("physicalTreeWidget", "COM1");
+    QTreeWidget* const rows = find<QTreeWidget>(r->page(), "physicalTreeWidget");
+    QTest::keyClick(rows, Qt::Key_Down);
+    melvox_test::settle();
+    QRect const row = rows->visualItemRect(rows->currentItem());
+    QTest::mouseClick(rows->viewport(), Qt::LeftButton, Qt::NoModifier, row.center());
+    QTest::mouseDClick(rows->viewport(), Qt::LeftButton, Qt::NoModifier, row.center());
+    QVERIFY(r->window->screen()->dialogs()->currentDialog());
+    QString const name = rows->currentItem()->text(0);
+    QVERIFY(name != "COM1");
+    QString const file = recorded_t::ended(r);
+    QStringList const actions = actionsIn(journal());
+    QCOMPARE(actions.value(1), QString("select physicalTreeWidget COM1"));
+    QCOMPARE(actions.value(2), "select physicalTreeWidget " + name);
+    QCOMPARE(actions.last(), "open physicalTreeWidget " + name);
+    QCOMPARE(melvox_test::replayed(file), QStringList());
+}
+
+void tst_recording::loadsAFileAgain()
+{
+    QByteArray const secret = "hushqzxv";
+    QString const profile = folder->write("profile_1", QByteArray(3000, 'x') + secret);
+    melvox_test::currentDir_t const currentDir;
+    std::unique_ptr<recorded_t> r = record("settingsProfiles");
+    QVERIFY(r->isReady);
+    r->openFromMenu("nav_loadProfile");
+    QVERIFY(waitFor([]() { return melvox_test::openFileDialog() != nullptr; }));
+    melvox_test::chooseFile(profile);
+    QVERIFY(waitFor([&]() { return journal().contains("\"group\":\"uploadResult\""); }));
+    melvox_test::settle();
+    QString const file = recorded_t::ended(r);
+    QVERIFY(actionsIn(journal()).contains("chooseFile " + profile));
+    QVERIFY(commandsIn(journal()).contains("uploadData"));
+    QVERIFY(!journal().contains(secret));
+    QCOMPARE(melvox_test::replayed(file), QStringList());
+    // Of another file other bytes are sent; where there is none nothing can be chosen.
+    folder->write("profile_1", QByteArray(3000, 'y'));
+    QVERIFY(melvox_test::replayed(file).value(0).contains("the command \"uploadData "));
+    QFile::remove(profile);
+    QVERIFY(melvox_test::replayed(file).value(0).contains("there is no file \"" + profile + "\" on this machine"));
 }
 
 void tst_recording::showsPositionsInTheUnitsOfThatTime()
