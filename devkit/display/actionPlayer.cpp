@@ -170,7 +170,9 @@ bool actionPlayer_t::chooseFile(action_t const& action, QString& reason)
         dialog->reject();
     else if (canTake(dialog, action.text, reason))
     {
-        dialog->selectFile(action.text);
+        // selectFile() leaves a name alone that has the focus.
+        if (QLineEdit* name = dialog->findChild<QLineEdit*>("fileNameEdit"))
+            name->setText(action.text);
         QMetaObject::invokeMethod(dialog, "accept");
     }
     return reason.isEmpty();

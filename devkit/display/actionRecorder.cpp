@@ -86,10 +86,12 @@ void actionRecorder_t::filter(QWidget* widget, QEvent* event)
         break;
     case QEvent::MouseButtonPress:
         m_pressed.clear();
+        m_touched = widget;
         tellRow(widget, event, action_t::SELECT);
         break;
     case QEvent::MouseButtonDblClick:
         m_pressed.clear();
+        m_touched = widget;
         tellRow(widget, event, action_t::OPEN);
         break;
     case QEvent::MouseButtonRelease:
@@ -97,6 +99,7 @@ void actionRecorder_t::filter(QWidget* widget, QEvent* event)
         break;
     case QEvent::KeyPress:
         m_pressed.clear();
+        m_touched.clear();
         filterKey(widget, event);
         break;
     case QEvent::FocusOut:
@@ -115,7 +118,10 @@ void actionRecorder_t::attach(QWidget* widget)
     else if (qobject_cast<QComboBox*>(widget))
         connect(widget, SIGNAL(activated(int)), SLOT(tellChosen(int)), Qt::UniqueConnection);
     else if (qobject_cast<QAbstractButton*>(widget))
+    {
+        connect(widget, SIGNAL(released()), SLOT(tellReleased()), Qt::UniqueConnection);
         connect(widget, SIGNAL(clicked(bool)), SLOT(tellClicked()), Qt::UniqueConnection);
+    }
     else if (qobject_cast<QFileDialog*>(widget))
         connect(widget, SIGNAL(finished(int)), SLOT(tellFile(int)), Qt::UniqueConnection);
 }
@@ -162,12 +168,23 @@ void actionRecorder_t::filterRelease(QWidget* widget, QEvent* event)
     tellButton(button);
 }
 
-/** Presses that were not seen coming: by the keyboard, or by a program that operates this one. */
+/** By the keyboard, or by a program that operates this one. Comes before the click takes effect, unlike the click itself;
+ *  but a mouse also releases a button when it is dragged off it. */
+void actionRecorder_t::tellReleased()
+{
+    QAbstractButton* button = static_cast<QAbstractButton*>(sender());
+    if (m_pressed == button || m_touched == button)
+        return;
+    m_pressed = button;
+    tellButton(button);
+}
+
 void actionRecorder_t::tellClicked()
 {
     QAbstractButton* button = static_cast<QAbstractButton*>(sender());
     bool const isTold = m_pressed == button;
     m_pressed.clear();
+    m_touched.clear();
     if (!isTold)
         tellButton(button);
 }

@@ -39,6 +39,7 @@ signals:
     void acted(melvox_display::action_t const& action);
 
 private slots:
+    void tellReleased();
     void tellClicked();
     void tellEdited();
     void tellChosen(int index);
@@ -58,6 +59,7 @@ private:
     action_t on(action_t::kind_t kind) const;
 
     QPointer<displayWindow_t> m_window;
+    QPointer<QWidget> m_touched; //!< the mouse went down on it
     QPointer<QWidget> m_pressed; //!< told already; its click follows
     QPointer<QWidget> m_typed;
 };

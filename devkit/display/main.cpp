@@ -77,9 +77,9 @@ int run(options_t const& options, recording_t& recording, replay_t& replay)
     if (!options.recordFile.isEmpty())
         recording.watch(window, options.page);
     window.show();
-    if (!options.tourDir.isEmpty())
-        return walkTour(window, unit, options.tourDir);
-    return QApplication::exec();
+    int const result = options.tourDir.isEmpty() ? QApplication::exec() : walkTour(window, unit, options.tourDir);
+    recording.end();
+    return result;
 }
 
 /** What the toolkit takes for itself. */

@@ -92,4 +92,10 @@ void recording_t::watch(displayWindow_t& window, QString const& firstPage)
     m_actions->watch(&window);
 }
 
+void recording_t::end()
+{
+    m_actions.reset();
+    m_writer.close();
+}
+
 } // namespace melvox_display

@@ -27,10 +27,13 @@ public:
 
     /** False, and `reason` for people, when the file cannot be used. Needs no application object. */
     bool open(QString const& file, QString& reason, qint64 limit = melvox_link::journalWriter_t::LIMIT);
-    /** Before the window is made and the unit started, both of which must be gone before this. */
+    /** Before the window is made and the unit started. */
     void begin(options_t const& options, unit_t& unit, uiSettings_t const& settings);
     /** Once the first page is shown. */
     void watch(displayWindow_t& window, QString const& firstPage);
+
+    /** Before the window goes: what pages send while they are taken down no operator had them send. */
+    void end();
 
 private:
     void writePage(QString const& page);

@@ -33,8 +33,14 @@ journalWriter_t::journalWriter_t(QObject* parent) : QObject(parent), m_limit(LIM
 
 journalWriter_t::~journalWriter_t()
 {
+    close();
+}
+
+void journalWriter_t::close()
+{
     if (isWriting())
         put(endLine("closed"));
+    m_file.close();
 }
 
 bool journalWriter_t::open(QString const& file, QString& reason, qint64 limit)

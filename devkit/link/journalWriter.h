@@ -30,7 +30,7 @@ public:
     static qint64 const LIMIT = 64 * 1024 * 1024;
 
     explicit journalWriter_t(QObject* parent = nullptr);
-    /** Writes that the journal was closed. */
+    /** Closes the journal. */
     ~journalWriter_t() override;
 
     /** A file that holds something already is refused: it may be the journal of a crash. False, and `reason` for people,
@@ -40,6 +40,9 @@ public:
 
     /** The first line, and from then on whatever passes the tap. `header` says what the display started with. */
     void begin(QVariantMap const& header, melvox_link::linkTap_t* tap);
+
+    /** Writes that the journal was closed, and nothing any more. */
+    void close();
 
 public slots:
     void writeMessage(melvox_link::message_t const& message);

@@ -60,6 +60,8 @@ struct recorded_t
         melvox_test::settle();
     }
 
+    ~recorded_t() { recording.end(); }
+
     /** Whatever is asked for last is there. */
     bool isFilled()
     {
@@ -69,7 +71,8 @@ struct recorded_t
 
     QWidget* page() const { return window->screen()->page(window->screen()->currentPage()); }
 
-    void tapAt(QWidget* widget, QPoint const& place)
+    /** Where this is in the window, once it can be seen. */
+    QPoint reach(QWidget* widget, QPoint const& place)
     {
         for (QWidget* above = widget->parentWidget(); above; above = above->parentWidget())
         {
@@ -77,7 +80,12 @@ struct recorded_t
                 view->ensureWidgetVisible(widget);
         }
         melvox_test::settle();
-        QTest::mouseClick(window->windowHandle(), Qt::LeftButton, Qt::NoModifier, widget->mapTo(window.get(), place));
+        return widget->mapTo(window.get(), place);
+    }
+
+    void tapAt(QWidget* widget, QPoint const& place)
+    {
+        QTest::mouseClick(window->windowHandle(), Qt::LeftButton, Qt::NoModifier, reach(widget, place));
         melvox_test::settle();
     }
 
@@ -217,6 +225,10 @@ private slots:
     void leavesDialogsAgain();
     void opensRowsAgain();
     void loadsAFileAgain();
+    void endsBeforeThePagesAreTakenDown();
+    void answersByKeyboardAgain_data();
+    void answersByKeyboardAgain();
+    void tellsNotOfAButtonThatTheFingerLeft();
     void showsPositionsInTheUnitsOfThatTime();
     void tellsAPressBeforeWhatItSets();
     void neverWritesThePasskey();
@@ -252,7 +264,7 @@ void tst_recording::changesTheSolutionAgain()
     QVERIFY(waitFor([&]() { return labelText(r->page(), "elevationMaskLabel") == "12.5"; }));
     QString const file = recorded_t::ended(r);
     QVERIFY(commandsIn(journal()).contains("elevationMask"));
-    QCOMPARE(melvox_test::replayed(file), QStringList());
+    QCOMPARE(melvox_test::replayed(file).join("\n"), QString());
     // And it would be seen if the pages sent something else.
     QStringList const found = replayedWith("\"group\":\"elevationMask\",\"kind\":\"command\",\"value\":12.5",
                                            "\"group\":\"elevationMask\",\"kind\":\"command\",\"value\":13");
@@ -274,7 +286,7 @@ void tst_recording::isRefusedAgain()
     QVERIFY(!commandsIn(journal()).contains("elevationMask"));
     QVERIFY2(actionsIn(journal()).contains("answer errorReport Elevation mask must be 4 - 60 Ok"),
              qPrintable(actionsIn(journal()).join("\n")));
-    QCOMPARE(melvox_test::replayed(file), QStringList());
+    QCOMPARE(melvox_test::replayed(file).join("\n"), QString());
     // A box with another text is another behaviour.
     QVERIFY(replayedWith("must be 4 - 60", "must be 4 - 70").value(0).contains("the message box says"));
 }
@@ -306,7 +318,7 @@ void tst_recording::configuresAPortAgain()
     QVERIFY2(actions.contains("select virtualTreeWidget ETH3"), qPrintable(actions.join("\n")));
     QVERIFY2(actions.contains("tap melvoxUiVirtualPortConfigDialog buttonBox/Ok"), qPrintable(actions.join("\n")));
     QVERIFY(commandsIn(journal()).contains("vcomConfig"));
-    QCOMPARE(melvox_test::replayed(file), QStringList());
+    QCOMPARE(melvox_test::replayed(file).join("\n"), QString());
 }
 
 void tst_recording::takesAddressesOverDhcpAgain()
@@ -324,7 +336,7 @@ void tst_recording::takesAddressesOverDhcpAgain()
     QString const file = recorded_t::ended(r);
     QCOMPARE(linesWith(journal(), "link").size(), 3);
     QVERIFY(commandsIn(journal()).contains("ethernetConfig"));
-    QCOMPARE(melvox_test::replayed(file), QStringList());
+    QCOMPARE(melvox_test::replayed(file).join("\n"), QString());
 }
 
 void tst_recording::leavesDialogsAgain()
@@ -345,7 +357,7 @@ void tst_recording::leavesDialogsAgain()
                                                  << "close melvoxUiCustomSatDialog"
                                                  << "page customSat"
                                                  << "back");
-    QCOMPARE(melvox_test::replayed(file), QStringList());
+    QCOMPARE(melvox_test::replayed(file).join("\n"), QString());
 }
 
 void tst_recording::opensRowsAgain()
@@ -367,7 +379,7 @@ void tst_recording::opensRowsAgain()
     QCOMPARE(actions.value(1), QString("select physicalTreeWidget COM1"));
     QCOMPARE(actions.value(2), "select physicalTreeWidget " + name);
     QCOMPARE(actions.last(), "open physicalTreeWidget " + name);
-    QCOMPARE(melvox_test::replayed(file), QStringList());
+    QCOMPARE(melvox_test::replayed(file).join("\n"), QString());
 }
 
 void tst_recording::loadsAFileAgain()
@@ -386,12 +398,75 @@ void tst_recording::loadsAFileAgain()
     QVERIFY(actionsIn(journal()).contains("chooseFile " + profile));
     QVERIFY(commandsIn(journal()).contains("uploadData"));
     QVERIFY(!journal().contains(secret));
-    QCOMPARE(melvox_test::replayed(file), QStringList());
+    QCOMPARE(melvox_test::replayed(file).join("\n"), QString());
     // Of another file other bytes are sent; where there is none nothing can be chosen.
     folder->write("profile_1", QByteArray(3000, 'y'));
     QVERIFY(melvox_test::replayed(file).value(0).contains("the command \"uploadData "));
     QFile::remove(profile);
     QVERIFY(melvox_test::replayed(file).value(0).contains("there is no file \"" + profile + "\" on this machine"));
+}
+
+void tst_recording::endsBeforeThePagesAreTakenDown()
+{
+    QString const profile = folder->write("profile_1", QByteArray(300000, 'x'));
+    melvox_test::currentDir_t const currentDir;
+    std::unique_ptr<recorded_t> r = record("settingsProfiles");
+    QVERIFY(r->isReady);
+    r->openFromMenu("nav_loadProfile");
+    QVERIFY(waitFor([]() { return melvox_test::openFileDialog() != nullptr; }));
+    melvox_test::chooseFile(profile);
+    // In the midst of the transfer, whose lock a page gives back when it goes.
+    QVERIFY(waitFor([&]() { return commandsIn(journal()).contains("uploadData"); }));
+    QString const file = recorded_t::ended(r);
+    QCOMPARE(commandsIn(journal()).count("portLock"), 1);
+    QVERIFY(journal().endsWith("\"end\":\"closed\"}\n"));
+    QCOMPARE(melvox_test::replayed(file).join("\n"), QString());
+}
+
+void tst_recording::answersByKeyboardAgain_data()
+{
+    QTest::addColumn<int>("key");
+    QTest::newRow("Return") << int(Qt::Key_Return);
+    QTest::newRow("Space") << int(Qt::Key_Space);
+    QTest::newRow("Escape") << int(Qt::Key_Escape);
+}
+
+void tst_recording::answersByKeyboardAgain()
+{
+    QFETCH(int, key);
+    std::unique_ptr<recorded_t> r = record("solutionControl");
+    QVERIFY(r->isReady);
+    r->tap(find<QLineEdit>(r->page(), "elevationMaskLineEdit"));
+    r->press("9 9 done");
+    r->tapIn("buttonBox", "Apply");
+    QVERIFY(waitFor([]() { return melvox_test::openBox() != nullptr; }));
+    QTest::keyClick(melvox_test::openBox()->button(QMessageBox::Ok), Qt::Key(key));
+    melvox_test::settle();
+    QVERIFY(!melvox_test::openBox());
+    QString const file = recorded_t::ended(r);
+    QCOMPARE(actionsIn(journal()).last(), QString("answer errorReport Elevation mask must be 4 - 60 Ok"));
+    QCOMPARE(actionsIn(journal()).count(actionsIn(journal()).last()), 1);
+    QCOMPARE(melvox_test::replayed(file).join("\n"), QString());
+}
+
+void tst_recording::tellsNotOfAButtonThatTheFingerLeft()
+{
+    std::unique_ptr<recorded_t> r = record("solutionControl");
+    QVERIFY(r->isReady);
+    QAbstractButton* const apply = melvox_test::button(find<QDialogButtonBox>(r->page(), "buttonBox"), "Apply");
+    QWindow* const window = r->window->windowHandle();
+    QPoint const place = r->reach(apply, apply->rect().center());
+    QPoint const away(20, 20);
+    QTest::mousePress(window, Qt::LeftButton, Qt::NoModifier, place);
+    QVERIFY(waitFor([&]() { return apply->isDown(); }));
+    QTest::mouseMove(window, away);
+    QVERIFY(waitFor([&]() { return !apply->isDown(); }));
+    QTest::mouseRelease(window, Qt::LeftButton, Qt::NoModifier, away);
+    QTest::keyClick(apply, Qt::Key_Space);
+    recorded_t::ended(r);
+    // But of the key that presses it afterwards.
+    QCOMPARE(actionsIn(journal()), QStringList() << "page solutionControl"
+                                                 << "tap buttonBox/Apply");
 }
 
 void tst_recording::showsPositionsInTheUnitsOfThatTime()
@@ -418,7 +493,7 @@ void tst_recording::showsPositionsInTheUnitsOfThatTime()
     QVERIFY(options.format == LATLON_FORMAT_DEGMINSEC);
     QCOMPARE(options.size, QSize(800, 480));
     QCOMPARE(options.page, QString("displaySettings"));
-    QCOMPARE(melvox_test::replayed(file), QStringList());
+    QCOMPARE(melvox_test::replayed(file).join("\n"), QString());
 }
 
 void tst_recording::tellsAPressBeforeWhatItSets()
