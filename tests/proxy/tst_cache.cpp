@@ -1,4 +1,4 @@
-#include "proxyRecorder.h"
+#include "proxycheck/signalRecorder.h"
 #include "support/pageTest.h"
 
 #include <functional>
@@ -6,7 +6,7 @@
 
 using namespace brel_common_qt;
 using melvox_link::message_t;
-using melvox_test::proxyRecorder_t;
+using melvox_proxycheck::signalRecorder_t;
 
 namespace
 {
@@ -154,7 +154,7 @@ void tst_cache::takesNumbersUpToTheLimitsOfTheirFields()
     QFETCH(double, number);
     QFETCH(bool, taken);
     report.insert(field, number);
-    proxyRecorder_t const recorder(device);
+    signalRecorder_t const recorder(device);
     receiver->report(group, report);
     QCOMPARE(!recorder.told.isEmpty(), taken);
 }
@@ -183,7 +183,7 @@ void tst_cache::ignoresPortsThatAreNone_data()
 void tst_cache::ignoresPortsThatAreNone()
 {
     QFETCH(int, port);
-    proxyRecorder_t const recorder(device);
+    signalRecorder_t const recorder(device);
     receiver->report("output", output(port, "NMEAGGA", 1.0));
     receiver->report("portTxRxInfo",
                      map("port", port, "txValid", true, "rxValid", true, "txUsage", 1.5, "rxUsage", 2.5));
@@ -207,7 +207,7 @@ void tst_cache::ignoresEthernetSourcesThatAreNone_data()
 void tst_cache::ignoresEthernetSourcesThatAreNone()
 {
     QFETCH(int, source);
-    proxyRecorder_t const recorder(device);
+    signalRecorder_t const recorder(device);
     receiver->report("ethernetConfig", ethernet(source));
     QCOMPARE(recorder.told, QStringList());
     QVERIFY(device->ethernetConfig(melvoxEthernetConfigSource_t(source)) == 0);
@@ -223,7 +223,7 @@ void tst_cache::ignoresCorrectionTypesThatAreNone_data()
 void tst_cache::ignoresCorrectionTypesThatAreNone()
 {
     QFETCH(int, type);
-    proxyRecorder_t const recorder(device);
+    signalRecorder_t const recorder(device);
     receiver->report("correctionEnabled", map("type", type, "enabled", true));
     receiver->report("correctionMaxAge", map("type", type, "seconds", 1200));
     bool enabled = false;
@@ -238,7 +238,7 @@ void tst_cache::ignoresSatelliteIdsThatAreNoKeys()
 {
     receiver->report("correctionSats", list(sat(65535)));
     receiver->report("correctionSatStats", map("inUse", 65535, "sats", list(stats(65535))));
-    proxyRecorder_t const recorder(device);
+    signalRecorder_t const recorder(device);
     receiver->report("correctionSats", list(sat(1), sat(65545)));
     receiver->report("correctionSatStats", map("inUse", 9, "sats", list(stats(1), stats(65545))));
     QCOMPARE(recorder.told, QStringList());
@@ -265,7 +265,7 @@ void tst_cache::ignoresAntennaPairsThatAreNone()
         infos << antenna("AOAD/M_T");
         heights << map("useAdjustments", true, "height", 1.5, "slantRange", 2.5, "radius", 3.5);
     }
-    proxyRecorder_t const recorder(device);
+    signalRecorder_t const recorder(device);
     receiver->report("antennaInfo", infos);
     receiver->report("antennaHeight", heights);
     QCOMPARE(recorder.told, QStringList());
@@ -338,7 +338,7 @@ void tst_cache::anEmptyListIsAnAnswer()
 {
     receiver->report("correctionSats", list(sat(1)));
     receiver->report("measUse", list(map("name", "GLO", "use", true)));
-    proxyRecorder_t const recorder(device);
+    signalRecorder_t const recorder(device);
     receiver->report("correctionSats", QVariantList());
     receiver->report("correctionSatStats", map("inUse", 0, "sats", QVariantList()));
     receiver->report("measUse", QVariantList());
@@ -371,7 +371,7 @@ void tst_cache::aNavigationReportThatIsNotValidNeedsNoOtherField()
         info.insert(name, 1.5);
     receiver->report("extendedNavInfo", info);
     QVERIFY(device->extendedNavInfoValid());
-    proxyRecorder_t const recorder(device);
+    signalRecorder_t const recorder(device);
     receiver->report("extendedNavInfo", map("valid", false));
     QVERIFY(!device->extendedNavInfoValid());
     QCOMPARE(recorder.told, QStringList("extendedNavInfoUpdated"));
@@ -400,8 +400,8 @@ void tst_cache::firmwareVersionsKeepTheOrderInWhichTheyCame()
 void tst_cache::aClearedOutputListIsEmptyWhenItIsToldOf()
 {
     receiver->report("output", output(0, "NMEAGGA", 1.0));
-    proxyRecorder_t const recorder(device,
-                                   [this]() { return melvox_test::text(device->portOutputs(MELVOX_PORT_COM1)); });
+    signalRecorder_t const recorder(device, [this]()
+                                    { return melvox_proxycheck::text(device->portOutputs(MELVOX_PORT_COM1)); });
     receiver->event("outputsCleared");
     receiver->report("output", output(0, "NMEAGLL", 5.0));
     QCOMPARE(recorder.told, QStringList() << "outputsCleared"
@@ -413,7 +413,7 @@ void tst_cache::aClearedOutputListIsEmptyWhenItIsToldOf()
 void tst_cache::aResetAntennaListIsEmptyWhenItIsToldOf()
 {
     receiver->report("antennaName", "AOAD/M_T");
-    proxyRecorder_t const recorder(device, [this]() { return device->antennaList().join("|"); });
+    signalRecorder_t const recorder(device, [this]() { return device->antennaList().join("|"); });
     receiver->event("antennaListReset");
     QCOMPARE(recorder.told, QStringList("antennaListReset"));
     QCOMPARE(recorder.states, QStringList(""));
@@ -436,14 +436,14 @@ void tst_cache::theEthernetInterfacesAreKeptApart()
 
 void tst_cache::aLowBaudRateIsToldOf()
 {
-    proxyRecorder_t const recorder(device);
+    signalRecorder_t const recorder(device);
     receiver->event("badBaud");
     QCOMPARE(recorder.told, QStringList("badBaudDetected"));
 }
 
 void tst_cache::clearedProfilesAreToldOf()
 {
-    proxyRecorder_t const recorder(device);
+    signalRecorder_t const recorder(device);
     receiver->event("profilesCleared");
     QCOMPARE(recorder.told, QStringList("profilesCleared"));
 }
@@ -452,7 +452,7 @@ void tst_cache::clearedProfilesAreToldOf()
 
 void tst_cache::ignoresGroupsThatNobodyKnows()
 {
-    proxyRecorder_t const recorder(device);
+    signalRecorder_t const recorder(device);
     receiver->report("elevationmask", 10.0);
     receiver->report("", 10.0);
     receiver->event("warmRestart");
@@ -471,7 +471,7 @@ void tst_cache::ignoresWhatOnlyADisplayMaySay_data()
 void tst_cache::ignoresWhatOnlyADisplayMaySay()
 {
     QFETCH(int, kind);
-    proxyRecorder_t const recorder(device);
+    signalRecorder_t const recorder(device);
     QSignalSpy const locks(device->port(), SIGNAL(lockStateUpdated(brel_common_qt::portLock_t)));
     message_t const messages[] = {message_t(message_t::kind_t(kind), "elevationMask", 10.0),
                                   message_t(message_t::kind_t(kind), "portLock", 2)};
@@ -493,7 +493,7 @@ void tst_cache::ignoresDeepNests()
     QVariant nest = 1;
     for (int i = 0; i < 500; ++i)
         nest = QVariantList() << map("name", nest);
-    proxyRecorder_t const recorder(device);
+    signalRecorder_t const recorder(device);
     receiver->report("measUse", nest);
     receiver->report("correctionSats", nest);
     receiver->report("elevationMask", nest);
@@ -539,10 +539,10 @@ void tst_cache::aSlotMayAskAndCommand()
 
 void tst_cache::aSlotMayDestroyAnotherListener()
 {
-    proxyRecorder_t* page = 0;
+    signalRecorder_t* page = 0;
     reaction_t const reaction(device, SIGNAL(baseNameUpdated(std::string)), [&page]() { delete page; });
-    page = new proxyRecorder_t(device);
-    proxyRecorder_t const last(device);
+    page = new signalRecorder_t(device);
+    signalRecorder_t const last(device);
     receiver->report("baseName", "NORTH");
     QCOMPARE(last.told, QStringList("baseNameUpdated \"NORTH\""));
 }
@@ -551,7 +551,7 @@ void tst_cache::aSlotMayDestroyItself()
 {
     QObject* page = 0;
     page = new reaction_t(device, SIGNAL(baseNameUpdated(std::string)), [&page]() { page->deleteLater(); });
-    proxyRecorder_t const last(device);
+    signalRecorder_t const last(device);
     receiver->report("baseName", "NORTH");
     melvox_test::settle();
     receiver->report("baseName", "SOUTH");
@@ -573,7 +573,7 @@ void tst_cache::aMessageThatComesWithinASlotDoesNotSpoilTheOneBefore()
                                nested = true;
                                receiver->report("measUse", QVariantList());
                            });
-    proxyRecorder_t const recorder(device);
+    signalRecorder_t const recorder(device);
     receiver->report("antennaName", name);
     receiver->report("measUse", list(map("name", "GLO", "use", true)));
     QCOMPARE(recorder.told, QStringList() << "antennaListReset"

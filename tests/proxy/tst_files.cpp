@@ -1,10 +1,10 @@
-#include "proxyRecorder.h"
+#include "proxycheck/signalRecorder.h"
 #include "support/pageTest.h"
 
 #include <QDir>
 
 using namespace brel_common_qt;
-using melvox_test::proxyRecorder_t;
+using melvox_proxycheck::signalRecorder_t;
 
 namespace
 {
@@ -410,7 +410,7 @@ void tst_files::letsGoOfAFileThatIsDone()
 
 void tst_files::writesADumpedProfile()
 {
-    proxyRecorder_t const recorder(device);
+    signalRecorder_t const recorder(device);
     device->dumpAsProfile(at("profile_1.dravel"));
     dump(at("profile_1.dravel"), pattern(3000));
     QCOMPARE(contents("profile_1.dravel"), pattern(3000));
@@ -438,7 +438,7 @@ void tst_files::aDumpReplacesAnExistingFileAsAWhole()
 void tst_files::aDumpThatFailedWritesNothing()
 {
     create("profile", "old");
-    proxyRecorder_t const recorder(device);
+    signalRecorder_t const recorder(device);
     device->dumpAsProfile(at("profile"));
     receiver->report("profileDump", map("path", QString::fromStdString(at("profile")), "success", false, "description",
                                         "No memory", "data", QByteArray("half")));
@@ -461,7 +461,7 @@ void tst_files::tellsThePathAsItWasNamed()
 void tst_files::ignoresADumpThatNobodyAskedFor()
 {
     create("profile", "old");
-    proxyRecorder_t const recorder(device);
+    signalRecorder_t const recorder(device);
     device->dumpAsProfile(at("another"));
     dump(at("profile"), "new");
     QCOMPARE(contents("profile"), QByteArray("old"));
@@ -472,7 +472,7 @@ void tst_files::ignoresADumpThatComesTwice()
 {
     device->dumpAsProfile(at("profile"));
     dump(at("profile"), "first");
-    proxyRecorder_t const recorder(device);
+    signalRecorder_t const recorder(device);
     dump(at("profile"), "second");
     QCOMPARE(contents("profile"), QByteArray("first"));
     QVERIFY(recorder.told.isEmpty());
@@ -497,7 +497,7 @@ void tst_files::ignoresADumpWithoutItsData()
 {
     QFETCH(QVariantMap, value);
     create("profile", "old");
-    proxyRecorder_t const recorder(device);
+    signalRecorder_t const recorder(device);
     device->dumpAsProfile(at("profile"));
     value.insert("path", QString::fromStdString(at("profile")));
     receiver->report("profileDump", value);
@@ -509,7 +509,7 @@ void tst_files::ignoresADumpWithoutItsData()
 
 void tst_files::aFolderThatIsNotThereFailsTheDump()
 {
-    proxyRecorder_t const recorder(device);
+    signalRecorder_t const recorder(device);
     device->dumpAsProfile(at("no folder/profile"));
     dump(at("no folder/profile"), "new");
     QCOMPARE(recorder.told.size(), 1);
@@ -524,7 +524,7 @@ void tst_files::anExistingFileIsKeptWhenItsReplacementCannotBeOpened()
 {
     create("profile", "old");
     QVERIFY(QDir(m_folder).mkdir("profile.part"));
-    proxyRecorder_t const recorder(device);
+    signalRecorder_t const recorder(device);
     device->dumpAsProfile(at("profile"));
     dump(at("profile"), "new");
     QVERIFY(recorder.told.first().contains("\" no \""));
@@ -536,7 +536,7 @@ void tst_files::anExistingFileIsKeptWhenTheDriveIsFull()
 #ifdef Q_OS_LINUX
     create("profile", "old");
     QVERIFY(QFile::link("/dev/full", m_folder + "profile.part"));
-    proxyRecorder_t const recorder(device);
+    signalRecorder_t const recorder(device);
     device->dumpAsProfile(at("profile"));
     dump(at("profile"), pattern(3000));
     QVERIFY2(recorder.told.first().contains("\" no \""), qPrintable(recorder.told.first()));
@@ -549,7 +549,7 @@ void tst_files::anExistingFolderIsKeptWhenADumpHasItsName()
 {
     QVERIFY(QDir(m_folder).mkdir("profile"));
     create("profile/inside", "kept");
-    proxyRecorder_t const recorder(device);
+    signalRecorder_t const recorder(device);
     device->dumpAsProfile(at("profile"));
     dump(at("profile"), "new");
     QVERIFY(recorder.told.first().contains("\" no \""));
@@ -559,7 +559,7 @@ void tst_files::anExistingFolderIsKeptWhenADumpHasItsName()
 
 void tst_files::aDumpFailsWhenTheLinkCloses()
 {
-    proxyRecorder_t const recorder(device);
+    signalRecorder_t const recorder(device);
     device->dumpAsProfile(at("profile"));
     receiver->setOpen(false);
     QCOMPARE(
@@ -570,7 +570,7 @@ void tst_files::aDumpFailsWhenTheLinkCloses()
 void tst_files::aDumpOverAClosedLinkFailsLater()
 {
     receiver->setOpen(false);
-    proxyRecorder_t const recorder(device);
+    signalRecorder_t const recorder(device);
     device->dumpAsProfile(at("profile"));
     QVERIFY(recorder.told.isEmpty());
     QVERIFY(melvox_test::waitFor([&recorder]() { return !recorder.told.isEmpty(); }));

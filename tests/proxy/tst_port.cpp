@@ -1,4 +1,4 @@
-#include "proxyRecorder.h"
+#include "proxycheck/signalRecorder.h"
 #include "support/pageTest.h"
 
 #include "brel_common_qt/kitPort.h"

@@ -1,16 +1,16 @@
-#include "proxyRecorder.h"
-#include "replyRows.h"
+#include "proxycheck/groupRows.h"
+#include "proxycheck/signalRecorder.h"
 #include "support/pageTest.h"
 
 #include <QMetaMethod>
-#include <QSet>
 
 #include <limits>
 
 using namespace brel_common_qt;
-using melvox_test::proxyRecorder_t;
-using melvox_test::REPLY_ROWS;
-using melvox_test::replyRow_t;
+using melvox_proxycheck::groupRow_t;
+using melvox_proxycheck::groupRows;
+using melvox_proxycheck::signalRecorder_t;
+using melvox_proxycheck::step_t;
 
 namespace
 {
@@ -132,16 +132,6 @@ QVariant otherwise(QVariant const& value)
     }
 }
 
-QString signalName(QMetaMethod const& method)
-{
-#if QT_VERSION < 0x050000
-    QByteArray const signature = method.signature();
-#else
-    QByteArray const signature = method.methodSignature();
-#endif
-    return signature.left(signature.indexOf('('));
-}
-
 } // namespace
 
 class tst_replies : public melvox_test::pageTest_t
@@ -166,150 +156,184 @@ private slots:
     void everySignalOfTheProxyHasAReportThatBringsIt();
 
 private:
-    static void addRows();
+    static void addSteps(bool withValue);
+    groupRow_t const& row() const;
+    step_t const& step() const;
+    QString state() const;
+    void say(step_t const& step);
+    void sayWhatComesBefore();
 };
 
-void tst_replies::addRows()
+/** What answers an order is looked at where orders are. */
+void tst_replies::addSteps(bool withValue)
 {
-    QTest::addColumn<int>("index");
-    for (int i = 0; i < REPLY_ROWS.size(); ++i)
-        QTest::newRow(REPLY_ROWS.at(i).group) << i;
+    QTest::addColumn<int>("row");
+    QTest::addColumn<int>("step");
+    for (std::size_t i = 0; i < groupRows().size(); ++i)
+    {
+        groupRow_t const& row = groupRows()[i];
+        for (std::size_t j = 0; row.kind != groupRow_t::ANSWERS && j < row.steps.size(); ++j)
+        {
+            QByteArray const name = row.messageOf(row.steps[j]) + QByteArray(" ") + QByteArray::number(int(j) + 1);
+            if (!withValue || row.steps[j].value.isValid())
+                QTest::newRow(name.constData()) << int(i) << int(j);
+        }
+    }
+}
+
+groupRow_t const& tst_replies::row() const
+{
+    QFETCH(int, row);
+    return groupRows()[std::size_t(row)];
+}
+
+step_t const& tst_replies::step() const
+{
+    QFETCH(int, step);
+    return row().steps[std::size_t(step)];
+}
+
+QString tst_replies::state() const
+{
+    return row().state ? row().state(*device) : QString();
+}
+
+void tst_replies::say(step_t const& step)
+{
+    receiver->report(row().messageOf(step), step.value);
+}
+
+void tst_replies::sayWhatComesBefore()
+{
+    for (step_t const& one : row().steps)
+    {
+        if (&one == &step())
+            return;
+        say(one);
+    }
 }
 
 void tst_replies::nothingIsKnownBeforeTheFirstReport_data()
 {
-    addRows();
+    addSteps(false);
 }
 
 void tst_replies::nothingIsKnownBeforeTheFirstReport()
 {
-    QFETCH(int, index);
-    replyRow_t const& row = REPLY_ROWS.at(index);
-    QCOMPARE(row.state(*device), QString::fromUtf8(row.unknown));
+    QCOMPARE(state(), QString::fromUtf8(row().unknown));
 }
 
 void tst_replies::theGettersGiveEachFieldOfAReport_data()
 {
-    addRows();
+    addSteps(false);
 }
 
 void tst_replies::theGettersGiveEachFieldOfAReport()
 {
-    QFETCH(int, index);
-    replyRow_t const& row = REPLY_ROWS.at(index);
-    receiver->report(row.group, row.report());
-    QCOMPARE(row.state(*device), QString::fromUtf8(row.known));
+    sayWhatComesBefore();
+    say(step());
+    QCOMPARE(state(), QString::fromUtf8(step().known));
 }
 
 void tst_replies::aReportIsToldOfOnceWithItsValues_data()
 {
-    addRows();
+    addSteps(false);
 }
 
 void tst_replies::aReportIsToldOfOnceWithItsValues()
 {
-    QFETCH(int, index);
-    replyRow_t const& row = REPLY_ROWS.at(index);
-    proxyRecorder_t const recorder(device);
-    receiver->report(row.group, row.report());
-    QCOMPARE(recorder.told.join("; "), QString::fromUtf8(row.told));
+    sayWhatComesBefore();
+    signalRecorder_t const recorder(device);
+    say(step());
+    QCOMPARE(recorder.told.join("; "), QString::fromUtf8(step().told));
 }
 
 void tst_replies::aReportIsToldOfAfterTheCacheWasRefreshed_data()
 {
-    addRows();
+    addSteps(false);
 }
 
 void tst_replies::aReportIsToldOfAfterTheCacheWasRefreshed()
 {
-    QFETCH(int, index);
-    replyRow_t const& row = REPLY_ROWS.at(index);
-    proxyRecorder_t const recorder(device, [&row, this]() { return row.state(*device); });
-    receiver->report(row.group, row.report());
+    sayWhatComesBefore();
+    signalRecorder_t const recorder(device, [this]() { return state(); });
+    say(step());
     QVERIFY(!recorder.states.isEmpty());
     for (QString const& state : recorder.states)
-        QCOMPARE(state, QString::fromUtf8(row.known));
+        QCOMPARE(state, QString::fromUtf8(step().known));
 }
 
 void tst_replies::eachReportIsToldOfAlsoWhenNothingChanged_data()
 {
-    addRows();
+    addSteps(false);
 }
 
 // Pages start timers and clear lists by the signal alone.
 void tst_replies::eachReportIsToldOfAlsoWhenNothingChanged()
 {
-    QFETCH(int, index);
-    replyRow_t const& row = REPLY_ROWS.at(index);
-    receiver->report(row.group, row.report());
-    proxyRecorder_t const recorder(device);
-    receiver->report(row.group, row.report());
-    QCOMPARE(recorder.told.join("; "), QString::fromUtf8(row.told));
+    say(step());
+    signalRecorder_t const recorder(device);
+    say(step());
+    QCOMPARE(recorder.told.join("; "), QString::fromUtf8(step().told));
 }
 
 void tst_replies::aSpoiledFirstReportIsIgnored_data()
 {
-    addRows();
+    addSteps(true);
 }
 
 void tst_replies::aSpoiledFirstReportIsIgnored()
 {
-    QFETCH(int, index);
-    replyRow_t const& row = REPLY_ROWS.at(index);
-    QString const before = row.state(*device);
-    proxyRecorder_t const recorder(device);
-    QList<spoiled_t> const all = spoil(row.report());
+    QString const before = state();
+    signalRecorder_t const recorder(device);
+    QList<spoiled_t> const all = spoil(step().value);
     QVERIFY(all.size() > 3);
     for (spoiled_t const& spoiled : all)
     {
-        receiver->report(row.group, spoiled.value);
+        receiver->report(row().messageOf(step()), spoiled.value);
         QVERIFY2(recorder.told.isEmpty(), qPrintable(spoiled.how));
-        QVERIFY2(row.state(*device) == before, qPrintable(spoiled.how));
+        QVERIFY2(state() == before, qPrintable(spoiled.how));
     }
 }
 
 void tst_replies::aSpoiledLaterReportLeavesWhatWasKnown_data()
 {
-    addRows();
+    addSteps(true);
 }
 
 // What is known differs from the spoiled report in every field, so that one field taken over would show.
 void tst_replies::aSpoiledLaterReportLeavesWhatWasKnown()
 {
-    QFETCH(int, index);
-    replyRow_t const& row = REPLY_ROWS.at(index);
-    receiver->report(row.group, otherwise(row.report()));
-    QString const before = row.state(*device);
-    QVERIFY(row.unknown == 0 || before != QString::fromUtf8(row.unknown));
-    proxyRecorder_t const recorder(device);
-    QList<spoiled_t> const all = spoil(row.report());
+    receiver->report(row().messageOf(step()), otherwise(step().value));
+    QString const before = state();
+    signalRecorder_t const recorder(device);
+    QList<spoiled_t> const all = spoil(step().value);
     for (spoiled_t const& spoiled : all)
     {
-        receiver->report(row.group, spoiled.value);
+        receiver->report(row().messageOf(step()), spoiled.value);
         QVERIFY2(recorder.told.isEmpty(), qPrintable(spoiled.how));
-        QVERIFY2(row.state(*device) == before, qPrintable(spoiled.how + "\n" + row.state(*device)));
+        QVERIFY2(state() == before, qPrintable(spoiled.how + "\n" + state()));
     }
 }
 
 void tst_replies::everySignalOfTheProxyHasAReportThatBringsIt()
 {
-    proxyRecorder_t const recorder(device);
-    for (replyRow_t const& row : REPLY_ROWS)
-        receiver->report(row.group, row.report());
-    receiver->event("antennaListReset");
-    receiver->event("outputsCleared");
-    receiver->event("profilesCleared");
-    receiver->event("badBaud");
-    device->dumpAsProfile("x");
-    receiver->report("profileDump", map("path", "x", "success", false, "description", "No", "data", QByteArray()));
-    QSet<QString> told;
-    for (QString const& entry : recorder.told)
-        told << entry.section(' ', 0, 0);
+    QStringList told;
+    for (groupRow_t const& row : groupRows())
+    {
+        for (step_t const& step : row.steps)
+        {
+            for (QString const& signal : QString::fromUtf8(step.told).split("; "))
+                told << signal.section(' ', 0, 0);
+        }
+    }
     QMetaObject const& meta = remoteMelvoxDevice_t::staticMetaObject;
     for (int i = meta.methodOffset(); i < meta.methodCount(); ++i)
     {
+        QByteArray const signature = melvox_proxycheck::signatureOf(meta.method(i));
+        QString const name = QString::fromLatin1(signature.left(signature.indexOf('(')));
         if (meta.method(i).methodType() == QMetaMethod::Signal)
-            QVERIFY2(told.contains(signalName(meta.method(i))), qPrintable(signalName(meta.method(i))));
+            QVERIFY2(told.contains(name), qPrintable(name));
     }
 }
 

@@ -1,12 +1,14 @@
-#ifndef MELVOX_TEST_PROXY_TEXT_H
-#define MELVOX_TEST_PROXY_TEXT_H
+#ifndef MELVOX_PROXYCHECK_PROXY_TEXT_H
+#define MELVOX_PROXYCHECK_PROXY_TEXT_H
 
 #include "brel_common_qt/remoteMelvoxDevice.h"
+
+#include <QVariant>
 
 #include <type_traits>
 
 /** What the proxy holds and tells as short texts, so that one comparison shows every field. */
-namespace melvox_test
+namespace melvox_proxycheck
 {
 
 inline QString text(bool flag)
@@ -81,6 +83,9 @@ QString text(brel_common_qt::ethernetConfig_t const& r);
 QString text(brel_common_qt::melvoxPpsConfig_t const& r);
 QString text(brel_common_qt::melvoxFirmwareUpdateProgress_t const& r);
 
+/** What a message carries: records by the names of their fields, and numbers alike whatever their type. */
+QString text(QVariant const& value);
+
 template <typename entry_t> QString text(QList<entry_t> const& entries)
 {
     QStringList texts;
@@ -113,6 +118,6 @@ template <typename value_t, typename... more_t> QString joined(value_t const& va
     return ' ' + text(value) + joined(more...);
 }
 
-} // namespace melvox_test
+} // namespace melvox_proxycheck
 
 #endif

@@ -1,8 +1,8 @@
-#include "proxyText.h"
+#include "proxycheck/proxyText.h"
 
 using namespace brel_common_qt;
 
-namespace melvox_test
+namespace melvox_proxycheck
 {
 
 namespace
@@ -13,7 +13,34 @@ template <typename... field_t> QString record(field_t const&... fields)
     return '(' + joined(fields...).mid(1) + ')';
 }
 
+QString fieldTexts(QVariantMap const& map)
+{
+    QStringList texts;
+    for (QVariantMap::const_iterator it = map.begin(); it != map.end(); ++it)
+        texts << it.key() + '=' + text(it.value());
+    return '(' + texts.join(" ") + ')';
+}
+
 } // namespace
+
+QString text(QVariant const& value)
+{
+    switch (value.userType())
+    {
+    case QMetaType::QVariantMap:
+        return fieldTexts(value.toMap());
+    case QMetaType::QVariantList:
+        return text(value.toList());
+    case QMetaType::QString:
+        return text(value.toString());
+    case QMetaType::Bool:
+        return text(value.toBool());
+    case QMetaType::QByteArray:
+        return QString::fromLatin1(value.toByteArray().toHex());
+    default:
+        return value.isValid() ? text(value.toDouble()) : QString();
+    }
+}
 
 QString text(melvoxNtripPPP_t const& r)
 {
@@ -113,4 +140,4 @@ QString text(melvoxFirmwareUpdateProgress_t const& r)
     return record(r.component, r.status);
 }
 
-} // namespace melvox_test
+} // namespace melvox_proxycheck

@@ -1,24 +1,41 @@
-#ifndef MELVOX_TEST_PROXY_RECORDER_H
-#define MELVOX_TEST_PROXY_RECORDER_H
+#ifndef MELVOX_PROXYCHECK_SIGNAL_RECORDER_H
+#define MELVOX_PROXYCHECK_SIGNAL_RECORDER_H
 
-#include "proxyText.h"
+#include "proxycheck/proxyText.h"
+
+#include <QMetaMethod>
+#include <QMutex>
+#include <QStringList>
 
 #include <functional>
 
-namespace melvox_test
+namespace melvox_proxycheck
 {
 
 using brel_common_qt::measUse_t;
 
 /** Writes down every signal of a proxy with its arguments, and what the proxy's getters said just then. */
-class proxyRecorder_t : public QObject
+class signalRecorder_t : public QObject
 {
     Q_OBJECT
 
 public:
     typedef std::function<QString()> state_t;
 
-    explicit proxyRecorder_t(brel_common_qt::remoteMelvoxDevice_t* device, state_t const& state = state_t());
+    explicit signalRecorder_t(brel_common_qt::remoteMelvoxDevice_t* device, state_t const& state = state_t());
+
+    /** Also writes down the signals of the proxy's port. */
+    void watchPort(brel_common_qt::remotePort_t* port);
+
+    /** The signals that there have to be, with their exact signatures. */
+    static QList<QByteArray> expected();
+    /** Those of them that the proxy or the port do not have. */
+    QList<QByteArray> const& missing() const { return m_missing; }
+
+    void clear();
+    /** Signals may come from any thread; the lists are to be read once they have come. */
+    int count() const;
+    bool cameFromOtherThreads() const;
 
     QStringList told;   //!< "elevationMaskUpdated 12.5"
     QStringList states; //!< of the getters, beside each entry of `told`
@@ -122,16 +139,29 @@ public slots:
     void serialRs232ModeUpdated(brel_common_qt::melvoxPort_t a, bool b) { note("serialRs232ModeUpdated", a, b); }
     void profileDumpDone(std::string const& a, bool b, std::string const& c) { note("profileDumpDone", a, b, c); }
 
+    void openChanged(bool a) { note("openChanged", a); }
+    void lockStateUpdated(brel_common_qt::portLock_t a) { note("lockStateUpdated", a); }
+    void uploadResult(brel_common_qt::uploadStatus_t a) { note("uploadResult", a); }
+    /** Comes with every message and says nothing of a group. */
+    void messageReceived(int) {}
+
 private:
     template <typename... argument_t> void note(char const* name, argument_t const&... arguments)
     {
-        told << name + joined(arguments...);
-        states << (m_state ? m_state() : QString());
+        add(name + joined(arguments...));
     }
 
+    void listen(QObject* sender, QByteArray const& signature);
+    void add(QString const& text);
+
     state_t m_state;
+    QList<QByteArray> m_missing;
+    mutable QMutex m_mutex;
+    bool m_foreign;
 };
 
-} // namespace melvox_test
+QByteArray signatureOf(QMetaMethod const& method);
+
+} // namespace melvox_proxycheck
 
 #endif
