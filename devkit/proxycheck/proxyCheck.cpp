@@ -404,7 +404,8 @@ QString toText(finding_t const& finding)
 
 QStringList groupNames()
 {
-    QStringList names(ENUMERATIONS);
+    QStringList names;
+    names << ENUMERATIONS;
     for (groupRow_t const& row : groupRows())
         names << row.group;
     return names;

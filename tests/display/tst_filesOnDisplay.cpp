@@ -8,6 +8,7 @@
 #include "display/uiSettings.h"
 #include "display/unit.h"
 #include "link/localLink.h"
+#include "receiver/profileText.h"
 #include "receiver/receiver.h"
 #include "receiver/simClock.h"
 #include "support/folder.h"
@@ -17,6 +18,7 @@
 #include <QApplication>
 #include <QProcess>
 #include <QProgressBar>
+#include <QScrollBar>
 #include <QTemporaryDir>
 
 using namespace melvox_display;
@@ -86,6 +88,16 @@ struct fixture_t
         tap(files, select);
     }
 
+    /** The page that compares, with this file of the drive chosen. */
+    QWidget* compare(QString const& name)
+    {
+        QWidget* const compared = page("compareProfile");
+        tap(compared, "Choose Profile");
+        chooseDrive("STICK");
+        chooseFile("melvoxUiUsbProfileListDialog", name, "Compare Profile");
+        return compared;
+    }
+
     /** What the receiver says that it runs. */
     QString version(std::string const& component)
     {
@@ -111,6 +123,14 @@ void makePackage(QString const& path)
     QCOMPARE(QProcess::execute(MELVOX_FIRMWARE_PROGRAM,
                                {"make", path, "NAV=1.15.2", "BOOT1=2.9", "PIOAPP=7.7", "--size", "64"}),
              0);
+}
+
+/** A receiver's settings as a profile, but for one. */
+QByteArray profileWith(QString const& group, QVariant const& value)
+{
+    melvox_receiver::settings_t settings = melvox_receiver::startSettings();
+    settings.insert(group, value);
+    return melvox_receiver::profileText(settings);
 }
 
 } // namespace
@@ -329,6 +349,139 @@ private slots:
         QVERIFY(waitFor([&]() { return labelText(page, "lteModemStatusLabel") == "PENDING"; }));
         QVERIFY(waitFor([&]() { return labelText(page, "lteModemStatusLabel") == "ON"; }));
         QVERIFY(button(page, "toggleLteModemButton")->isEnabled());
+    }
+
+    void aProfileIsComparedBeforeItIsLoaded()
+    {
+        fixture_t f;
+        QVERIFY(f.ready);
+        f.usb.write("STICK/profile_field.melvox", profileWith("elevationMask", 12.5));
+        QWidget* const page = f.compare("profile_field.melvox");
+        QTreeWidget* const tree = find<QTreeWidget>(page, "differenceTreeWidget");
+        QVERIFY(waitFor([&]() { return tree->topLevelItemCount() == 1; }));
+        QCOMPARE(labelText(page, "profileFileLabel"), QString("Profile: profile_field.melvox"));
+        QCOMPARE(labelText(page, "statusLabel"), QString("1 setting would change."));
+        QCOMPARE(melvox_test::rowTexts(tree, 0),
+                 QStringList({"Elevation mask", "7", "12.5", QString::fromUtf8("\xc2\xb0")}));
+        QCOMPARE(f.unit.receiver()->setting("elevationMask").toDouble(), 7.0);
+
+        tap(page, "Load This Profile");
+        QDialog* const load = f.dialog("melvoxUiProfileLoadDialog");
+        QVERIFY(waitFor([&]() { return labelText(load, "statusLabel") == "Load Complete"; }));
+        QCOMPARE(f.unit.receiver()->setting("elevationMask").toDouble(), 12.5);
+        tap(load, "Close");
+        QVERIFY(waitFor([&]() { return labelText(page, "statusLabel").startsWith("Nothing would change"); }));
+        QCOMPARE(tree->topLevelItemCount(), 0);
+        QVERIFY(!button(page, "Load This Profile")->isEnabled());
+    }
+
+    void theComparisonIsWithWhatTheReceiverHasNow()
+    {
+        fixture_t f;
+        QVERIFY(f.ready);
+        f.usb.write("STICK/profile_field.melvox", profileWith("elevationMask", 12.5));
+        QWidget* const page = f.compare("profile_field.melvox");
+        QTreeWidget* const tree = find<QTreeWidget>(page, "differenceTreeWidget");
+        QVERIFY(waitFor([&]() { return tree->topLevelItemCount() == 1; }));
+        QVERIFY(f.unit.receiver()->set("pdopLimit", 8.0));
+        tap(page, "Query");
+        QVERIFY(waitFor([&]() { return tree->topLevelItemCount() == 2; }));
+        QCOMPARE(melvox_test::rowTexts(tree, 1), QStringList({"Maximum PDOP", "8", "25", ""}));
+        QCOMPARE(labelText(page, "statusLabel"), QString("2 settings would change."));
+        f.page("solutionControl");
+        QVERIFY(f.unit.receiver()->set("pdopLimit", 25.0));
+        f.page("compareProfile");
+        QVERIFY(waitFor([&]() { return tree->topLevelItemCount() == 1; }));
+    }
+
+    void anAlteredProfileIsNeitherComparedNorLoaded()
+    {
+        fixture_t f;
+        QVERIFY(f.ready);
+        QByteArray bytes = profileWith("elevationMask", 12.5);
+        f.usb.write("STICK/profile_bad.melvox", bytes.replace("12.5", "13.5"));
+        QWidget* const page = f.compare("profile_bad.melvox");
+        QVERIFY(waitFor([&]() { return labelText(page, "statusLabel").contains("damaged or was altered"); }));
+        QCOMPARE(find<QTreeWidget>(page, "differenceTreeWidget")->topLevelItemCount(), 0);
+        QVERIFY(!button(page, "Load This Profile")->isEnabled());
+    }
+
+    void aProfileThatIsSpoiltLaterTakesTheComparisonAway()
+    {
+        fixture_t f;
+        QVERIFY(f.ready);
+        f.usb.write("STICK/profile_field.melvox", profileWith("elevationMask", 12.5));
+        QWidget* const page = f.compare("profile_field.melvox");
+        QTreeWidget* const tree = find<QTreeWidget>(page, "differenceTreeWidget");
+        QVERIFY(waitFor([&]() { return tree->topLevelItemCount() == 1; }));
+        f.usb.write("STICK/profile_field.melvox", profileWith("elevationMask", 33.0));
+        tap(page, "Load This Profile");
+        QVERIFY(waitFor([&]() { return tree->topLevelItemCount() == 1 && tree->topLevelItem(0)->text(2) == "33"; }));
+        QCOMPARE(f.unit.receiver()->setting("elevationMask").toDouble(), 7.0);
+        melvox_test::folder_t::remove(f.usb.path("STICK"));
+        tap(page, "Load This Profile");
+        QVERIFY(labelText(page, "statusLabel").startsWith("The file cannot be read:"));
+        QCOMPARE(tree->topLevelItemCount(), 0);
+    }
+
+    void aReceiverThatIsGoneIsToldOfInTheComparison()
+    {
+        fixture_t f;
+        QVERIFY(f.ready);
+        f.usb.write("STICK/profile_field.melvox", profileWith("elevationMask", 12.5));
+        QWidget* const page = f.compare("profile_field.melvox");
+        QTreeWidget* const tree = find<QTreeWidget>(page, "differenceTreeWidget");
+        QVERIFY(waitFor([&]() { return tree->topLevelItemCount() == 1; }));
+        f.unit.localLink()->setOpen(false);
+        tap(page, "Query");
+        QVERIFY(waitFor(
+            [&]()
+            {
+                return labelText(page, "statusLabel") ==
+                       "The receiver's settings could not be read: The link to the receiver was lost. Try Query.";
+            }));
+        QCOMPARE(tree->topLevelItemCount(), 0);
+        f.unit.localLink()->setOpen(true);
+        tap(page, "Query");
+        QVERIFY(waitFor([&]() { return tree->topLevelItemCount() == 1; }));
+    }
+
+    void nothingIsLoadedFromTheComparisonWhileATransferRuns()
+    {
+        fixture_t f;
+        QVERIFY(f.ready);
+        f.usb.write("STICK/profile_field.melvox", profileWith("elevationMask", 12.5));
+        QWidget* const page = f.compare("profile_field.melvox");
+        QVERIFY(waitFor([&]() { return button(page, "Load This Profile")->isEnabled(); }));
+        brel_common_qt::remotePort_t* const port = f.unit.device()->port();
+        port->setLockState(brel_common_qt::PORT_LOCK_PLUGIN);
+        QVERIFY(waitFor([&]() { return port->lockState() == brel_common_qt::PORT_LOCK_PLUGIN; }));
+        tap(page, "Load This Profile");
+        QVERIFY(labelText(page, "statusLabel").startsWith("Another transfer to the receiver is running."));
+        port->setLockState(brel_common_qt::PORT_LOCK_NONE);
+        QVERIFY(waitFor([&]() { return port->lockState() == brel_common_qt::PORT_LOCK_NONE; }));
+        QCOMPARE(f.unit.receiver()->setting("elevationMask").toDouble(), 7.0);
+    }
+
+    void theComparisonFitsTheScreenAndFollowsTheUnits()
+    {
+        fixture_t f;
+        QVERIFY(f.ready);
+        QVariantMap position = f.unit.receiver()->setting("basePosition").toMap();
+        position.insert("height", 40.5);
+        f.usb.write("STICK/profile_field.melvox", profileWith("basePosition", position));
+        QWidget* const page = f.compare("profile_field.melvox");
+        QTreeWidget* const tree = find<QTreeWidget>(page, "differenceTreeWidget");
+        QVERIFY(waitFor([&]() { return tree->topLevelItemCount() == 1; }));
+        QCOMPARE(melvox_test::rowTexts(tree, 0), QStringList({"Base height", "38.420", "40.500", "m"}));
+        QVERIFY(!tree->horizontalScrollBar()->isVisible());
+        for (char const* name : {"chooseButton", "queryButton", "loadButton"})
+            QVERIFY(button(page, name)->height() >= 40);
+        QWidget* const display = f.page("displaySettings");
+        tap(display, "feetButton");
+        f.page("compareProfile");
+        QVERIFY(waitFor([&]() { return tree->topLevelItemCount() == 1 && tree->topLevelItem(0)->text(3) == "ft"; }));
+        tap(f.page("displaySettings"), "metersButton");
     }
 };
 

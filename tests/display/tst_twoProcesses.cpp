@@ -1,6 +1,9 @@
 #include "brel_common_qt/remoteMelvoxDevice.h"
+#include "display/profileComparePage.h"
 #include "display/unit.h"
 #include "melvox_ui/melvoxUiSolutionControl.h"
+#include "receiver/profileText.h"
+#include "support/folder.h"
 #include "support/operator.h"
 #include "support/test.h"
 
@@ -72,6 +75,7 @@ private slots:
     void aSettingGoesToTheReceiverAndItsAnswerComesBack_data();
     void aSettingGoesToTheReceiverAndItsAnswerComesBack();
     void aReceiverThatComesBackIsAskedAgain();
+    void aProfileIsComparedWithAReceiverElsewhere();
 };
 
 void tst_twoProcesses::aSettingGoesToTheReceiverAndItsAnswerComesBack_data()
@@ -116,6 +120,21 @@ void tst_twoProcesses::aReceiverThatComesBackIsAskedAgain()
     QVERIFY(!second.place().isEmpty());
     // The new one starts from its defaults, so the label tells that it was asked.
     QVERIFY(waitFor([&]() { return labelText(&page, "elevationMaskLabel") == "7.0"; }, 20000));
+}
+
+void tst_twoProcesses::aProfileIsComparedWithAReceiverElsewhere()
+{
+    program_t program({"--tcp", "0"});
+    unit_t unit(connectionTo(program.place()));
+    profileComparePage_t page(unit.device());
+    unit.start();
+    QVERIFY(waitFor([&]() { return unit.device()->elevationMaskValid(); }, 20000));
+    melvox_test::folder_t const folder;
+    melvox_receiver::settings_t settings = melvox_receiver::startSettings();
+    settings.insert("elevationMask", 12.5);
+    QString const path = folder.write("profile_field.melvox", melvox_receiver::profileText(settings));
+    QMetaObject::invokeMethod(&page, "takeFile", Q_ARG(QString, path));
+    QVERIFY(waitFor([&]() { return labelText(&page, "statusLabel") == "1 setting would change."; }, 20000));
 }
 
 QTEST_MAIN(tst_twoProcesses)
