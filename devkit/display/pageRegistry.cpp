@@ -101,7 +101,7 @@ pageRegistry_t const& allPages()
         {"settingsProfiles", QT_TRANSLATE_NOOP("pages", "Settings Profiles"), s::FIRMWARE, page<melvoxUiSettingsProfiles_t>},
         {"dumpProfile", QT_TRANSLATE_NOOP("pages", "Dump Profile to File"), s::FIRMWARE, nullptr, "settingsProfiles", dumpProfile},
         {"loadProfile", QT_TRANSLATE_NOOP("pages", "Load Profile From File"), s::FIRMWARE, nullptr, "settingsProfiles", loadProfile},
-        {"compareProfile", QT_TRANSLATE_NOOP("pages", "Compare Profile With Receiver"), s::FIRMWARE, page<profileComparePage_t>},
+        {"compareProfile", QT_TRANSLATE_NOOP("pages", "Compare Profile"), s::FIRMWARE, page<profileComparePage_t>},
         {"receiverInformation", QT_TRANSLATE_NOOP("pages", "Receiver Information"), s::FIRMWARE, page<melvoxUiReceiverInformation_t>},
         {"displaySettings", QT_TRANSLATE_NOOP("pages", "Display Settings"), s::DISPLAY, ownPage<displaySettingsPage_t>},
     };

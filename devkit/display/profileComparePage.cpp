@@ -9,6 +9,7 @@
 #include "melvox_ui/melvoxUiProfileLoader.h"
 #include "melvox_ui/melvoxUiUsbProfileListDialog.h"
 
+#include <QEvent>
 #include <QFile>
 #include <QFileDialog>
 #include <QFileInfo>
@@ -29,7 +30,9 @@ using namespace brel_common_qt_gui;
 
 int const COLUMN_SETTING = 0;
 
-int const LOWEST_TREE = 160; // pixels
+// In pixels.
+int const LOWEST_TREE = 160;
+int const NARROWEST_NAME = 230;
 
 } // namespace
 
@@ -73,8 +76,8 @@ void profileComparePage_t::createParts()
     m_tree->setMinimumHeight(LOWEST_TREE);
     m_tree->header()->setSectionsMovable(false);
     m_tree->header()->setStretchLastSection(false);
-    m_tree->header()->setSectionResizeMode(QHeaderView::ResizeToContents);
-    m_tree->header()->setSectionResizeMode(COLUMN_SETTING, QHeaderView::Stretch);
+    m_tree->header()->setSectionResizeMode(QHeaderView::Fixed);
+    m_tree->viewport()->installEventFilter(this);
     QVBoxLayout* layout = new QVBoxLayout(this);
     layout->addWidget(m_fileLabel);
     layout->addWidget(m_status);
@@ -202,6 +205,26 @@ void profileComparePage_t::showComparison()
                       : count == 1 ? tr("1 setting would change.")
                                    : tr("%1 settings would change.").arg(count));
     m_load->setEnabled(count > 0);
+    arrangeColumns();
+}
+
+/** Values are not cut off. What they leave goes to the names, which take two lines where they have to. */
+void profileComparePage_t::arrangeColumns()
+{
+    int values = 0;
+    for (int column = COLUMN_SETTING + 1; column < m_tree->columnCount(); ++column)
+    {
+        m_tree->resizeColumnToContents(column);
+        values += m_tree->columnWidth(column);
+    }
+    m_tree->setColumnWidth(COLUMN_SETTING, qMax(NARROWEST_NAME, m_tree->viewport()->width() - values));
+}
+
+bool profileComparePage_t::eventFilter(QObject* object, QEvent* event)
+{
+    if (object == m_tree->viewport() && event->type() == QEvent::Resize)
+        arrangeColumns();
+    return QWidget::eventFilter(object, event);
 }
 
 void profileComparePage_t::load()

@@ -40,6 +40,8 @@ public:
     explicit profileComparePage_t(brel_common_qt::remoteMelvoxDevice_t* device, QWidget* parent = nullptr);
     ~profileComparePage_t() override;
 
+    bool eventFilter(QObject* object, QEvent* event) override;
+
 public slots:
     /** Reads the chosen file again and asks the receiver for its settings. */
     void query();
@@ -61,6 +63,7 @@ private:
     QBoxLayout* createButtons();
     QPushButton* createButton(QString const& name, QString const& text, void (profileComparePage_t::*pressed)());
     void createUsbDialogs();
+    void arrangeColumns();
     void clearComparison(QString const& status);
 
     brel_common_qt::remoteMelvoxDevice_t* m_device;

@@ -60,8 +60,7 @@ QString plainText(QVariant const& value)
     if (melvox_receiver::isNumber(value))
         return QString::number(value.toDouble(), 'g', SIGNIFICANT_DIGITS);
     QJsonDocument const document = QJsonDocument::fromVariant(value);
-    return document.isNull() ? brel_common_qt::NoneString
-                             : QString::fromUtf8(document.toJson(QJsonDocument::Compact));
+    return document.isNull() ? brel_common_qt::NoneString : QString::fromUtf8(document.toJson(QJsonDocument::Compact));
 }
 
 QString wordOf(settingWords_t const& words, QVariant const& value)
@@ -209,8 +208,9 @@ QString problemOf(QByteArray const& bytes, settings_t& settings)
     if (!bytes.startsWith(ANY_VERSION))
         return tr("This is no settings profile. Choose a file that was dumped from a receiver.");
     if (!melvox_receiver::startsProfile(bytes))
-        return tr("This profile is of another version, which cannot be compared. Dump it again from a receiver with the "
-                  "current firmware.");
+        return tr(
+            "This profile is of another version, which cannot be compared. Dump it again from a receiver with the "
+            "current firmware.");
     switch (melvox_receiver::readProfile(bytes, settings))
     {
     case melvox_receiver::PROFILE_INCOMPLETE:

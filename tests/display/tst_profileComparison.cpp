@@ -234,9 +234,8 @@ void tst_profileComparison::whatTheProfileDoesNotNameIsNoDifference()
     then.insert("elevationMask", 8.0);
     then.insert("ppsConfig", QVariantMap{{"interval", 500}});
     then.insert("serialConfig", QVariantList{QVariantMap{{"port", 1}, {"stopBits", 1}}});
-    QCOMPARE(texts(startSettings(), then),
-             QStringList({QString::fromUtf8("Elevation mask|7|8|\xc2\xb0"), "1PPS interval|1000|500|ms",
-                          "COM2: Stop bits|1|2|"}));
+    QCOMPARE(texts(startSettings(), then), QStringList({QString::fromUtf8("Elevation mask|7|8|\xc2\xb0"),
+                                                        "1PPS interval|1000|500|ms", "COM2: Stop bits|1|2|"}));
 }
 
 void tst_profileComparison::whatTheReceiverDoesNotTellIsShownAsUnknown()
@@ -338,7 +337,8 @@ void tst_profileComparison::otherFilesAreRefusedInWords_data()
     QTest::newRow("without its end") << whole.left(whole.size() / 2) << "This profile is incomplete";
     QTest::newRow("altered") << QByteArray(whole).replace("\"elevationMask\":7", "\"elevationMask\":8")
                              << "This profile is damaged or was altered";
-    QTest::newRow("something behind it") << whole + "more" << "This profile is damaged or was altered";
+    QTest::newRow("something behind it") << whole + "more"
+                                         << "This profile is damaged or was altered";
     QTest::newRow("nothing in it") << profileText(settings_t()) << "This profile has no settings in it.";
 }
 
