@@ -100,8 +100,8 @@ pageRegistry_t const& allPages()
         {"firmwareUpdate", QT_TRANSLATE_NOOP("pages", "Firmware Update"), s::FIRMWARE, page<melvoxUiFirmwareUpdate_t>},
         {"settingsProfiles", QT_TRANSLATE_NOOP("pages", "Settings Profiles"), s::FIRMWARE, page<melvoxUiSettingsProfiles_t>},
         {"dumpProfile", QT_TRANSLATE_NOOP("pages", "Dump Profile to File"), s::FIRMWARE, nullptr, "settingsProfiles", dumpProfile},
-        {"loadProfile", QT_TRANSLATE_NOOP("pages", "Load Profile From File"), s::FIRMWARE, nullptr, "settingsProfiles", loadProfile},
         {"compareProfile", QT_TRANSLATE_NOOP("pages", "Compare Profile"), s::FIRMWARE, page<profileComparePage_t>},
+        {"loadProfile", QT_TRANSLATE_NOOP("pages", "Load Profile From File"), s::FIRMWARE, nullptr, "settingsProfiles", loadProfile},
         {"receiverInformation", QT_TRANSLATE_NOOP("pages", "Receiver Information"), s::FIRMWARE, page<melvoxUiReceiverInformation_t>},
         {"displaySettings", QT_TRANSLATE_NOOP("pages", "Display Settings"), s::DISPLAY, ownPage<displaySettingsPage_t>},
     };

@@ -133,6 +133,7 @@ void profileComparePage_t::chooseFile()
     QFileDialog* const dialog = new QFileDialog(window(), tr("Open MELVOX Profile"), QString(),
                                                 tr("MELVOX Profile (*.melvox *.dravel);;All Files (*)"));
     dialog->setAttribute(Qt::WA_DeleteOnClose);
+    dialog->setFileMode(QFileDialog::ExistingFile);
     connect(dialog, &QFileDialog::fileSelected, this, &profileComparePage_t::takeFile);
     dialog->open();
 }

@@ -3,6 +3,7 @@
 #include "display/unit.h"
 #include "melvox_ui/melvoxUiSolutionControl.h"
 #include "receiver/profileText.h"
+#include "support/dialogs.h"
 #include "support/folder.h"
 #include "support/operator.h"
 #include "support/test.h"
@@ -133,7 +134,9 @@ void tst_twoProcesses::aProfileIsComparedWithAReceiverElsewhere()
     melvox_receiver::settings_t settings = melvox_receiver::startSettings();
     settings.insert("elevationMask", 12.5);
     QString const path = folder.write("profile_field.melvox", melvox_receiver::profileText(settings));
-    QMetaObject::invokeMethod(&page, "takeFile", Q_ARG(QString, path));
+    melvox_test::tap(&page, "Choose Profile");
+    QVERIFY(waitFor([]() { return melvox_test::openFileDialog() != nullptr; }));
+    melvox_test::chooseFile(path);
     QVERIFY(waitFor([&]() { return labelText(&page, "statusLabel") == "1 setting would change."; }, 20000));
 }
 
