@@ -47,6 +47,10 @@ QList<scene_t> const& tourScenes()
             "press Query", "row profileList 0", "shoot profiles"}},
         {"dumpProfile", scene_t::DRIVE, {
             "row driveTreeWidget 0", "press Select", "read statusLabel Dump complete", "shoot done", "press Close"}},
+        {"compareProfile", scene_t::PROFILE, {
+            "otherSettings", "press Choose Profile", "row driveTreeWidget 0", "press Select", "row treeWidget 0",
+            "press Compare Profile", "read statusLabel 3 settings would change.", "shoot differences",
+            "press Load This Profile", "read statusLabel Load Complete", "press Close"}},
         {"loadProfile", scene_t::PROFILE, {
             "row driveTreeWidget 0", "press Select", "row treeWidget 0", "shoot usbProfileListDialog",
             "press Load Profile", "read statusLabel Load Complete", "shoot done", "press Close"}},
@@ -114,6 +118,8 @@ bool tourHands_t::take(QString const& step) const
     QString const value = step.section(' ', 2);
     if (verb == "press")
         return press(step.section(' ', 1));
+    if (verb == "otherSettings")
+        return sendOtherSettings();
     if (verb == "row")
         return select(name, value.toInt());
     if (verb == "find")
@@ -155,6 +161,14 @@ bool tourHands_t::take(QString const& step) const
     if (verb != "oldFirmware")
         return false;
     emit m_unit.device()->firmwareVersionUpdated("NAV", "1.12.7");
+    return true;
+}
+
+bool tourHands_t::sendOtherSettings() const
+{
+    m_unit.device()->setElevationMask(12.5);
+    m_unit.device()->setPdopLimit(6.5);
+    m_unit.device()->setBaseName("NORTH FIELD");
     return true;
 }
 

@@ -27,8 +27,8 @@ struct scene_t
     QString page;
     need_t need;
     /** "row TREE NUMBER", "find TREE TEXT", "pick COMBO NUMBER", "type EDIT TEXT", "press BUTTON TEXT", "shoot NAME",
-     *  "oldFirmware" (the receiver reports it); and to wait for something: "offers COMBO TEXT", "read LABEL TEXT",
-     *  "reach BAR VALUE". */
+     *  "oldFirmware" (the receiver reports it), "otherSettings" (gives the receiver three that no profile of the tour
+     *  has); and to wait for something: "offers COMBO TEXT", "read LABEL TEXT", "reach BAR VALUE". */
     QStringList steps;
 };
 
@@ -50,6 +50,7 @@ private:
     template <typename widget_t> widget_t* find(QString const& name) const;
     bool select(QString const& tree, int row) const;
     bool press(QString const& text) const;
+    bool sendOtherSettings() const;
 
     screen_t& m_screen;
     unit_t& m_unit;
