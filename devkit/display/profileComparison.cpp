@@ -208,9 +208,7 @@ QString problemOf(QByteArray const& bytes, settings_t& settings)
     if (!bytes.startsWith(ANY_VERSION))
         return tr("This is no settings profile. Choose a file that was dumped from a receiver.");
     if (!melvox_receiver::startsProfile(bytes))
-        return tr(
-            "This profile is of another version, which cannot be compared. Dump it again from a receiver with the "
-            "current firmware.");
+        return tr("This profile is of another version or was altered. Dump it again from the receiver that it is of.");
     switch (melvox_receiver::readProfile(bytes, settings))
     {
     case melvox_receiver::PROFILE_INCOMPLETE:

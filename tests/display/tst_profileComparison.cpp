@@ -333,7 +333,9 @@ void tst_profileComparison::otherFilesAreRefusedInWords_data()
     QTest::newRow("foreign") << QByteArray("S0030000FC\n") << "This is no settings profile.";
     QTest::newRow("binary") << QByteArray(5000, '\0') << "This is no settings profile.";
     QTest::newRow("another version") << QByteArray(whole).replace("profile 1\n", "profile 2\n")
-                                     << "This profile is of another version";
+                                     << "This profile is of another version or was altered.";
+    QTest::newRow("saved by an editor") << QByteArray(whole).replace("\n", "\r\n")
+                                        << "This profile is of another version or was altered.";
     QTest::newRow("without its end") << whole.left(whole.size() / 2) << "This profile is incomplete";
     QTest::newRow("altered") << QByteArray(whole).replace("\"elevationMask\":7", "\"elevationMask\":8")
                              << "This profile is damaged or was altered";
