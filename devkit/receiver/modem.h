@@ -6,7 +6,10 @@
 namespace melvox_receiver
 {
 
-/** The LTE modem, which takes its time. */
+/** The LTE modem: once it is switched on it starts, looks for a network and registers there; what it lacks it says for as
+ *  long as it lacks it. While it is being switched its modem status is PENDING.
+ *
+ *  Situations: "lteSim" tells whether there is a SIM card in it; "lteSignal" is how strong the network is, in dBm. */
 class modem_t : public behaviour_t
 {
 public:
@@ -14,13 +17,28 @@ public:
 
     answer_t request(link_t* from, QString const& group) override;
     answer_t command(link_t* from, QString const& group, QVariant const& value) override;
+    answer_t situation(QString const& name, QVariant const& value) override;
+    void restarted() override;
     void advance(int milliseconds) override;
 
 private:
     QVariantMap status() const;
+    bool hearsNetwork() const;
+    void switchTo(bool on);
+    void enter(int state);
+    void tell();
+    void goOn();
+    void search();
+    void takeSim(bool present);
+    void takeSignal(double strength);
 
-    bool m_on;
-    int m_pending; //!< milliseconds until it is there
+    bool m_on;        //!< as it was told
+    bool m_switching; //!< not there yet
+    bool m_sim;
+    double m_signal; //!< dBm
+    int m_state;
+    int m_left; //!< milliseconds until the state is over; 0: it lasts
+    QVariantMap m_told;
 };
 
 /** The Iridium modem: after a restart it starts up, looks for the network and tells what it found.

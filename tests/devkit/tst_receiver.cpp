@@ -93,7 +93,6 @@ private slots:
     void needsNoIntervalToTurnAMessageOff();
     void turnsAllMessagesOfAPortOff();
     void ignoresAnUnknownOutputMessage();
-    void switchesTheModemInItsTime();
     void usesANewAlmanacOnce();
     void losesItsSolutionForAWhile_data();
     void losesItsSolutionForAWhile();
@@ -545,19 +544,6 @@ void tst_receiver::ignoresAnUnknownOutputMessage()
     display->command("output", output(3, "NMEAXYZ", 1, 1.0));
     QVERIFY(display->texts().isEmpty());
     QCOMPARE(receiver->ignoredCount(), 1);
-}
-
-void tst_receiver::switchesTheModemInItsTime()
-{
-    display->command("lteModemStat", QVariantMap{{"on", true}});
-    QCOMPARE(display->texts(), QStringList("lteModemStat modemStatus=PENDING networkStatus=DISCONNECTED rssi=N/A"));
-    clock->advance(5999);
-    QVERIFY(display->texts().isEmpty());
-    clock->advance(1);
-    QCOMPARE(display->texts(), QStringList("lteModemStat modemStatus=ON networkStatus=CONNECTED rssi=-71 dBm"));
-    display->command("lteModemStat", QVariantMap{{"on", false}});
-    clock->advance(2000);
-    QCOMPARE(display->texts().last(), QString("lteModemStat modemStatus=OFF networkStatus=DISCONNECTED rssi=N/A"));
 }
 
 void tst_receiver::usesANewAlmanacOnce()
