@@ -53,6 +53,7 @@ public:
     bool openPty(QString& error);
     bool openSerial(QString const& device, QString& error);
     bool openOutput(QString const& text, QString& error);
+    bool keepProfiles(QString const& folder, QString& error);
 
 private:
     unsigned int nextSerialPort() { return FIRST_SERIAL_PORT + m_serialPorts++ % NUM_SERIAL_PORTS; }
@@ -147,6 +148,15 @@ bool program_t::openOutput(QString const& text, QString& error)
     return true;
 }
 
+bool program_t::keepProfiles(QString const& folder, QString& error)
+{
+    if (!folder.isEmpty() && m_receiver.setSituation("profileFolder", folder))
+        return true;
+    error = tr("cannot keep profiles in the folder \"%1\": give one that this program may make, read and write.")
+                .arg(folder);
+    return false;
+}
+
 bool openPlaces(program_t& program, QCommandLineParser const& parser, QString& error)
 {
     for (QString const& text : parser.values("tcp"))
@@ -194,6 +204,8 @@ int main(int argc, char** argv)
                       tr("Let other programs read what the receiver puts out on a port, COM1 to ETH8, over TCP or a "
                          "pseudo-terminal."),
                       "port=tcp:[address:]port|port=pty"});
+    parser.addOption(
+        {"profiles", tr("Keep the profiles in this folder; without it they are forgotten in the end."), "folder"});
     parser.addOption({"quiet", tr("Tell nothing unless asked, and put nothing out unless there is an --output.")});
 
     if (!parser.parse(QCoreApplication::arguments()))
@@ -220,6 +232,8 @@ int main(int argc, char** argv)
     if (!parser.isSet("quiet"))
         program.report();
     QString error;
+    if (parser.isSet("profiles") && !program.keepProfiles(parser.value("profiles"), error))
+        return fail(EXIT_FAILURE, error);
     if (!openPlaces(program, parser, error))
         return fail(EXIT_FAILURE, error);
     return application.exec();

@@ -46,6 +46,15 @@ QByteArray readFile(QString const& path)
     return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
 }
 
+/** Made when it is not there. */
+bool isUsable(QString const& folder)
+{
+    if (!QDir().mkpath(folder))
+        return false;
+    QFileInfo const info(folder);
+    return info.isDir() && info.isReadable() && info.isWritable();
+}
+
 bool isName(QString const& name)
 {
     return !name.isEmpty() && name.size() <= LONGEST_NAME &&
@@ -99,7 +108,7 @@ behaviour_t::answer_t profiles_t::situation(QString const& name, QVariant const&
     if (name != "profileFolder")
         return NOT_MINE;
     QString const folder = value.toString();
-    if (!folder.isEmpty() && !QDir().mkpath(folder))
+    if (!folder.isEmpty() && !isUsable(folder))
         return UNREADABLE;
     m_folder = folder;
     if (!m_folder.isEmpty())

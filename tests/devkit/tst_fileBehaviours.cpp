@@ -63,7 +63,7 @@ private slots:
     void keepsNamesThatFilesCannotHave_data();
     void keepsNamesThatFilesCannotHave();
     void passesSpoiltProfilesOver();
-    void refusesAFolderThatCannotBeMade();
+    void refusesAFolderThatCannotBeUsed();
     void refusesAFileThatWasCutOff_data();
     void refusesAFileThatWasCutOff();
     void forgetsAHalfLoadedFileWithTheLock();
@@ -169,11 +169,12 @@ void tst_fileBehaviours::passesSpoiltProfilesOver()
     QVERIFY(told.last().contains("name=Good"));
 }
 
-void tst_fileBehaviours::refusesAFolderThatCannotBeMade()
+void tst_fileBehaviours::refusesAFolderThatCannotBeUsed()
 {
     folder_t folder;
     folder.write("file", "x");
     QVERIFY(!receiver->setSituation("profileFolder", folder.path("file/profiles")));
+    QVERIFY(!receiver->setSituation("profileFolder", folder.path("file")));
 }
 
 void tst_fileBehaviours::refusesAFileThatWasCutOff_data()

@@ -76,6 +76,7 @@ private slots:
     void listensInSeveralPlaces();
     void tellsOneDisplayWhatAnotherOneChanged();
     void goesOnAfterGarbage();
+    void keepsProfilesInAFolder();
     void isFoundAgainOverTcpAfterItWasKilled();
     void isFoundAgainOverASerialLineAfterItWasKilled();
     void answersOverASerialDevice();
@@ -175,6 +176,25 @@ void tst_receiverProgram::goesOnAfterGarbage()
     QCOMPARE(answer, QByteArray("{\"group\":\"elevationMask\",\"kind\":\"report\",\"value\":7}\n"));
 }
 
+void tst_receiverProgram::keepsProfilesInAFolder()
+{
+    QTemporaryDir dir;
+    QString const folder = dir.filePath("kept/here");
+    for (char const* command : {"saveAsProfile", "deleteProfile"})
+    {
+        program_t program({"--tcp", "0", "--profiles", folder});
+        tcpLink_t link("127.0.0.1", quint16(program.tcpPort()));
+        linkListener_t listener(link);
+        link.start();
+        QVERIFY(waitFor([&]() { return link.isOpen(); }));
+        link.send({message_t::COMMAND, command, "Field"});
+        link.send({message_t::REQUEST, "profiles"});
+        QVERIFY(waitFor([&]() { return !listener.texts.filter("name=Factory").isEmpty(); }));
+        bool const saves = QString(command) == "saveAsProfile";
+        QCOMPARE(QFile::exists(folder + "/Field.profile"), saves);
+    }
+}
+
 void tst_receiverProgram::isFoundAgainOverTcpAfterItWasKilled()
 {
     QScopedPointer<program_t> program(new program_t({"--tcp", "0"}));
@@ -254,6 +274,9 @@ void tst_receiverProgram::saysInOneSentenceWhatIsWrong_data()
     QTest::newRow("no number") << QStringList{"--tcp", "five"} << 1 << "\"five\"";
     QTest::newRow("too great a number") << QStringList{"--tcp", "65536"} << 1 << "\"65536\"";
     QTest::newRow("no address") << QStringList{"--tcp", "somewhere:5000"} << 1 << "\"somewhere:5000\"";
+    QTest::newRow("no folder for profiles")
+        << QStringList{"--tcp", "0", "--profiles", "/dev/null/profiles"} << 1 << "\"/dev/null/profiles\"";
+    QTest::newRow("profiles without a name") << QStringList{"--tcp", "0", "--profiles", ""} << 1 << "folder \"\"";
     QTest::newRow("no device") << QStringList{"--serial", "/nowhere/ttyS0"} << 1 << "/nowhere/ttyS0";
 }
 
