@@ -11,6 +11,7 @@ target_sources(brel_common_qt PRIVATE
     textHelpers.cpp
     timestamps.cpp
     kitUsb.h
+    systemMounts.cpp
     usbDriveManager.cpp ${PROJECT_SOURCE_DIR}/include/brel_common_qt/usbDriveManager.h
     version.cpp
 )

@@ -9,6 +9,7 @@
 #include "display/tour.h"
 #include "display/uiSettings.h"
 #include "display/unit.h"
+#include "receiver/receiver.h"
 
 #include <QApplication>
 
@@ -22,11 +23,18 @@ using namespace melvox_display;
 
 int const EXIT_REFUSED = 2;
 
+int refuse(QString const& text)
+{
+    std::fprintf(stderr, "melvox_display: %s\n", qPrintable(text));
+    return EXIT_REFUSED;
+}
+
 int answer(parsedOptions_t const& parsed)
 {
-    bool const refused = parsed.result == parsedOptions_t::REFUSE;
-    std::fprintf(refused ? stderr : stdout, "%s%s\n", refused ? "melvox_display: " : "", qPrintable(parsed.text));
-    return refused ? EXIT_REFUSED : 0;
+    if (parsed.result == parsedOptions_t::REFUSE)
+        return refuse(parsed.text);
+    std::printf("%s\n", qPrintable(parsed.text));
+    return 0;
 }
 
 /** False when it cannot even begin, and nothing is to be started. */
@@ -57,11 +65,22 @@ void tellHowItWent(replay_t const& replay)
 int run(options_t const& options, recording_t& recording, replay_t& replay)
 {
     // Before any page, and pictures of the drives' dialogs need drives, or the lack of them.
+    std::unique_ptr<melvox_kit::mountTable_t> mounts;
     std::unique_ptr<brel_common_qt::usbDriveManager_t> drives;
-    melvox_kit::setUsbRoot(options.usbDir);
-    if (!options.usbDir.isEmpty() || !options.tourDir.isEmpty() || options.hasDrives)
+    if (options.realDrives)
+        mounts.reset(melvox_kit::createSystemMounts());
+    if (mounts)
+        melvox_kit::setUsbMounts(mounts.get());
+    else
+        melvox_kit::setUsbRoot(options.usbDir);
+    if (options.realDrives || !options.usbDir.isEmpty() || !options.tourDir.isEmpty() || options.hasDrives)
         drives = std::make_unique<brel_common_qt::usbDriveManager_t>();
     unit_t unit(options.connection);
+    if (!options.profileFolder.isEmpty() && !unit.receiver()->setSituation("profileFolder", options.profileFolder))
+        return refuse(QCoreApplication::translate("options",
+                                                  "--profiles takes a folder that this program may make, read "
+                                                  "and write, not \"%1\".")
+                          .arg(options.profileFolder));
     uiSettings_t settings(options.settingsFile);
     settings.applyPreferences(options);
     if (!options.recordFile.isEmpty())

@@ -29,8 +29,10 @@ QList<QCommandLineOption> knownOptions()
          tr("The receiver: tcp:HOST:PORT or serial:DEVICE[:BAUD]. Without it, a simulated receiver in this program."),
          tr("WHERE")},
         {"size", tr("Size of the unit's screen in pixels, 1024x600 unless told."), tr("WxH")},
-        {"usb", tr("Each folder in this one is a USB drive. Without it, files are chosen in a file dialog."),
-         tr("DIR")},
+        {"usb",
+         tr("Each folder in this one is a USB drive; real: the removable drives of this machine are. Without it, files "
+            "are chosen in a file dialog."),
+         "DIR|real"},
         {"tour", tr("Walks all pages and dialogs, writes pictures of them to this folder and ends."), tr("DIR")},
         {"units", tr("Heights and distances in m or ft, for this run."), "m|ft"},
         {"format", tr("Positions in deg, dm or dms, for this run."), "deg|dm|dms"},
@@ -40,6 +42,7 @@ QList<QCommandLineOption> knownOptions()
         {"replay-actions", tr("With --replay: the operator is played too.")},
         {"replay-speed", tr("With --replay: 2 plays at twice the speed, 0 as fast as the display follows."),
          tr("FACTOR")},
+        {"profiles", tr("The simulated receiver keeps its profiles in this folder."), tr("DIR")},
         {QStringList{"h", "help"}, tr("Shows this text.")},
         {QStringList{"v", "version"}, tr("Shows the version.")},
     };
@@ -146,10 +149,16 @@ QString readFormat(QString const& text, options_t& options)
 
 QString readUsb(QString const& text, options_t& options)
 {
+    options.realDrives = text == "real";
+    if (options.realDrives)
+        return QString();
     options.usbDir = text;
     if (QFileInfo(text).isDir())
         return QString();
-    return tr("--usb takes a folder whose folders are the drives; there is no folder \"%1\".").arg(text);
+    return tr("--usb takes a folder whose folders are the drives, or real for those of this machine; there is no "
+              "folder "
+              "\"%1\".")
+        .arg(text);
 }
 
 QString readFileName(QString const& option, QString const& text, QString& name)
@@ -188,6 +197,16 @@ QString readReplay(QCommandLineParser const& parser, options_t& options)
     return faults.value(0);
 }
 
+QString readProfiles(QString const& text, options_t& options)
+{
+    options.profileFolder = text;
+    if (text.isEmpty())
+        return tr("%1 needs a name.").arg("--profiles");
+    if (options.connection.kind == connection_t::SIMULATED && options.replayFile.isEmpty())
+        return QString();
+    return tr("--profiles is for the receiver in this program, which --connect and --replay do without.");
+}
+
 QString readValues(QCommandLineParser const& parser, QStringList const& pages, options_t& options)
 {
     QStringList faults;
@@ -210,6 +229,8 @@ QString readValues(QCommandLineParser const& parser, QStringList const& pages, o
     if (parser.isSet("record"))
         faults << readFileName("--record", parser.value("record"), options.recordFile);
     faults << readReplay(parser, options);
+    if (parser.isSet("profiles"))
+        faults << readProfiles(parser.value("profiles"), options);
     faults.removeAll(QString());
     return faults.value(0);
 }

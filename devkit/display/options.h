@@ -44,13 +44,15 @@ struct options_t
     QString page; //!< empty: the last one, or the first
     connection_t connection;
     QSize size = QSize(1024, 600);
-    QString usbDir;                                      //!< empty: the unit has no USB drives
+    QString usbDir;                                      //!< whose folders stand for USB drives; empty: there is none
+    bool realDrives = false;                             //!< the USB drives are those of the machine
     QString tourDir;                                     //!< empty: no tour
     std::optional<brel_common_qt::distanceUnit_t> units; //!< not given: as stored
     std::optional<brel_common_qt::latLonFormat_t> format;
-    QString settingsFile; //!< empty: the user's own
-    QString recordFile;   //!< empty: no journal is written
-    QString replayFile;   //!< empty: none is played
+    QString settingsFile;  //!< empty: the user's own
+    QString profileFolder; //!< where the simulated receiver keeps its profiles; empty: nowhere
+    QString recordFile;    //!< empty: no journal is written
+    QString replayFile;    //!< empty: none is played
     bool replayActions = false;
     bool hasDrives = false; //!< USB drives even without a folder for them
 };

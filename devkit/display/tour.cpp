@@ -1,5 +1,6 @@
 #include "display/tour.h"
 
+#include "brel_common_qt/textHelpers.h"
 #include "brel_common_qt/usbDriveManager.h"
 #include "display/dialogHost.h"
 #include "display/displayWindow.h"
@@ -18,6 +19,7 @@
 #include <QDir>
 #include <QElapsedTimer>
 #include <QFileDialog>
+#include <QLabel>
 #include <QLineEdit>
 #include <QMessageBox>
 #include <QPixmap>
@@ -40,6 +42,8 @@ namespace
 int const ANSWER_MS = 5000;
 int const REACTION_MS = 1500;
 int const SCENE_MS = 60000; // a scan of a drive, half a firmware update, on a busy machine
+/** Of what the receiver tells by itself, once a second. */
+int const REPORT_MS = 3000;
 
 bool waitUntil(std::function<bool()> const& condition, int milliseconds)
 {
@@ -90,6 +94,21 @@ QString shortName(QDialog const* object)
     if (name.endsWith("_t"))
         name.chop(2);
     return name.isEmpty() ? name : name.left(1).toLower() + name.mid(1);
+}
+
+/** Whether all that a page has to tell is missing still. */
+bool tellsNothing(QWidget const* page)
+{
+    int missing = 0;
+    for (QLabel const* label : page->findChildren<QLabel*>())
+    {
+        if (!label->isVisible() || label->text().isEmpty() || label->objectName().endsWith("TitleLabel"))
+            continue;
+        if (label->text() != brel_common_qt::NoDataString)
+            return false;
+        ++missing;
+    }
+    return missing > 0;
 }
 
 class tour_t
@@ -231,6 +250,8 @@ void tour_t::visitPage(pageEntry_t const& entry)
         return;
     }
     waitForAnswers();
+    if (QWidget const* page = m_screen.page(name))
+        waitUntil([page]() { return !tellsNothing(page); }, REPORT_MS);
     shootScrolled(name);
     m_screen.dialogs()->rejectAll();
     playScenes(name);

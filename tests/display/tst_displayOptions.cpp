@@ -115,8 +115,40 @@ private slots:
     {
         parsedOptions_t const parsed = parse({"--usb", "/there/is/none"});
         QCOMPARE(parsed.result, parsedOptions_t::REFUSE);
-        QCOMPARE(parsed.text, QString("--usb takes a folder whose folders are the drives; there is no folder "
-                                      "\"/there/is/none\"."));
+        QCOMPARE(parsed.text, QString("--usb takes a folder whose folders are the drives, or real for those of this "
+                                      "machine; there is no folder \"/there/is/none\"."));
+    }
+
+    void takesTheDrivesOfTheMachine()
+    {
+        QVERIFY(!parse({}).options.realDrives);
+        QVERIFY(!parse({"--usb", QDir::tempPath()}).options.realDrives);
+        options_t const options = parse({"--usb", "real"}).options;
+        QVERIFY(options.realDrives);
+        QVERIFY(options.usbDir.isEmpty());
+    }
+
+    void takesAFolderForProfiles()
+    {
+        QVERIFY(parse({}).options.profileFolder.isEmpty());
+        QCOMPARE(parse({"--profiles", "kept"}).options.profileFolder, QString("kept"));
+        QCOMPARE(parse({"--profiles="}).result, parsedOptions_t::REFUSE);
+    }
+
+    void refusesAFolderForTheProfilesOfAnotherReceiver_data()
+    {
+        QTest::addColumn<QString>("where");
+        QTest::newRow("over a link") << "--connect=tcp:receiver:5000";
+        QTest::newRow("from a journal") << "--replay=journal.jsonl";
+    }
+
+    void refusesAFolderForTheProfilesOfAnotherReceiver()
+    {
+        QFETCH(QString, where);
+        parsedOptions_t const parsed = parse({"--profiles", "kept", where});
+        QCOMPARE(parsed.result, parsedOptions_t::REFUSE);
+        QCOMPARE(parsed.text, QString("--profiles is for the receiver in this program, which --connect and --replay do "
+                                      "without."));
     }
 
     void takesASize_data()
@@ -229,18 +261,20 @@ private slots:
         parsedOptions_t const parsed = parse(arguments);
         QCOMPARE(parsed.result, parsedOptions_t::REFUSE);
         QVERIFY2(parsed.text.startsWith(beginning), qPrintable(parsed.text));
-        QVERIFY2(parsed.text.endsWith(
-                     "The options are: --page, --connect, --size, --usb, --tour, --units, --format, "
-                     "--settings, --record, --replay, --replay-actions, --replay-speed, --help, --version."),
-                 qPrintable(parsed.text));
+        QVERIFY2(
+            parsed.text.endsWith(
+                "The options are: --page, --connect, --size, --usb, --tour, --units, --format, "
+                "--settings, --record, --replay, --replay-actions, --replay-speed, --profiles, --help, --version."),
+            qPrintable(parsed.text));
     }
 
     void helpTellsOptionsAndPages()
     {
         parsedOptions_t const parsed = parse({"--help"});
         QCOMPARE(parsed.result, parsedOptions_t::SHOW);
-        for (char const* part : {"--page NAME", "--connect WHERE", "--size WxH", "--tour DIR", "--units m|ft",
-                                 "--format deg|dm|dms", "--settings FILE", "--version", "solutionControl, ppsConfig"})
+        for (char const* part :
+             {"--page NAME", "--connect WHERE", "--size WxH", "--tour DIR", "--units m|ft", "--format deg|dm|dms",
+              "--settings FILE", "--usb DIR|real", "--profiles DIR", "--version", "solutionControl, ppsConfig"})
             QVERIFY2(parsed.text.contains(part), part);
     }
 

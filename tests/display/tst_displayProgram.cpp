@@ -55,6 +55,8 @@ private slots:
         QTest::addColumn<QString>("part");
         QTest::newRow("option") << QStringList{"--sise", "800x480"} << "There is no option \"--sise\".";
         QTest::newRow("value") << QStringList{"--size", "big"} << "--size takes";
+        QTest::newRow("profiles") << QStringList{"--platform", "offscreen", "--profiles", "/dev/null/profiles"}
+                                  << "may make, read and write, not \"/dev/null/profiles\".";
         QTest::newRow("page") << QStringList{"--page", "none"} << "The pages are: solutionControl,";
     }
 

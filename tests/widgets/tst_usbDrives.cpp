@@ -1,5 +1,6 @@
 #include "brel_common_qt/kitUsb.h"
 #include "brel_common_qt_gui/usbDriveSelectDialog.h"
+#include "support/folder.h"
 #include "support/test.h"
 #include "typing.h"
 
@@ -45,6 +46,48 @@ void tap(QDialog const& dialog)
     QTest::mouseClick(part<QPushButton>(dialog, "selectButton"), Qt::LeftButton);
 }
 
+/** A machine that mounts what the test says. */
+class machine_t : public melvox_kit::mountTable_t
+{
+public:
+    QList<melvox_kit::mount_t> mounts() const override { return m_mounts; }
+
+    /** The kernel's folder of a disk, with one partition unless it is none on its own. */
+    void addDisk(QString const& bus, QString const& name, bool removable)
+    {
+        QString const disk = "devices/" + bus + "/block/" + name;
+        m_sys.write(disk + "/removable", removable ? "1\n" : "0\n");
+        m_sys.write(disk + "/" + name + "1/partition", "1\n");
+        m_sys.makeDir("class/block");
+        QVERIFY(QFile::link(m_sys.path(disk), m_sys.path("class/block/" + name)));
+        QVERIFY(QFile::link(m_sys.path(disk + "/" + name + "1"), m_sys.path("class/block/" + name + "1")));
+    }
+    void mount(QString const& device, QString const& path, QString const& name = QString(), bool writable = true)
+    {
+        melvox_kit::mount_t mount;
+        mount.device = device;
+        mount.path = path;
+        mount.name = name;
+        mount.writable = writable;
+        m_mounts << mount;
+        emit changed();
+    }
+    void unmount(QString const& path)
+    {
+        for (int i = m_mounts.size() - 1; i >= 0; --i)
+        {
+            if (m_mounts.at(i).path == path)
+                m_mounts.removeAt(i);
+        }
+        emit changed();
+    }
+    QString sys() const { return m_sys.path(); }
+
+private:
+    melvox_test::folder_t m_sys;
+    QList<melvox_kit::mount_t> m_mounts;
+};
+
 } // namespace
 
 class tst_usbDrives : public melvox_test::test_t
@@ -60,6 +103,17 @@ private slots:
     void anotherRootHasOtherDrives();
     void noRootHasNoDrives();
     void managerIsTheOneThereIs();
+
+    void drivesOfTheMachineAreWhereDesktopsMountThem_data();
+    void drivesOfTheMachineAreWhereDesktopsMountThem();
+    void drivesOfTheMachineAreRemovableWhereverTheyAreMounted_data();
+    void drivesOfTheMachineAreRemovableWhereverTheyAreMounted();
+    void drivesOfTheMachineAreNamedAfterTheirLabels();
+    void drivesOfTheMachineComeAndGo();
+    void machineWithoutChangeTellsNothing();
+    void foldersTakeThePlaceOfTheMachine();
+    void machineThatIsGoneHasNoDrives();
+    void thisMachineIsRead();
 
     void dialogListsTheDrives();
     void dialogFollowsTheDrives();
@@ -200,6 +254,154 @@ void tst_usbDrives::managerIsTheOneThereIs()
         QCOMPARE(static_cast<usbDriveManager_t const*>(usbDriveManager_t::m_instance), &manager);
     }
     QVERIFY(!usbDriveManager_t::m_instance);
+}
+
+void tst_usbDrives::drivesOfTheMachineAreWhereDesktopsMountThem_data()
+{
+    QTest::addColumn<QString>("device");
+    QTest::addColumn<QString>("path");
+    QTest::addColumn<bool>("writable");
+    QTest::addColumn<QString>("found");
+    QTest::newRow("media") << "/dev/sdb1"
+                           << "/media/user/STICK" << true << "STICK";
+    QTest::newRow("run") << "/dev/sdb1"
+                         << "/run/media/user/STICK" << true << "STICK";
+    QTest::newRow("by hand") << "/dev/sdb1"
+                             << "/mnt/stick" << true << "stick";
+    QTest::newRow("read only") << "/dev/sdb1"
+                               << "/media/user/STICK" << false << "";
+    QTest::newRow("the system's own") << "/dev/sdb1"
+                                      << "/" << true << "";
+    QTest::newRow("elsewhere") << "/dev/sdb1"
+                               << "/home" << true << "";
+    QTest::newRow("memory") << "tmpfs"
+                            << "/mnt/memory" << true << "";
+    QTest::newRow("network") << "server:/files"
+                             << "/mnt/files" << true << "";
+}
+
+void tst_usbDrives::drivesOfTheMachineAreWhereDesktopsMountThem()
+{
+    QFETCH(QString, device);
+    QFETCH(QString, path);
+    QFETCH(bool, writable);
+    machine_t machine;
+    machine.mount(device, path, QString(), writable);
+    melvox_kit::setUsbMounts(&machine, machine.sys());
+    usbDriveManager_t const manager;
+    QTEST(names(manager.drives()), "found");
+    for (int i = 0; i < manager.drives().size(); ++i)
+        QCOMPARE(manager.drives().at(i).mountPoint, path + "/");
+}
+
+void tst_usbDrives::drivesOfTheMachineAreRemovableWhereverTheyAreMounted_data()
+{
+    QTest::addColumn<QString>("bus");
+    QTest::addColumn<bool>("removable");
+    QTest::addColumn<QString>("device");
+    QTest::addColumn<QString>("found");
+    QTest::newRow("stick") << "pci0/host1" << true << "/dev/sdx"
+                           << "drive";
+    QTest::newRow("partition of a stick") << "pci0/host1" << true << "/dev/sdx1"
+                                          << "drive";
+    QTest::newRow("hard disk on USB") << "pci0/usb1/1-2/host6" << false << "/dev/sdx1"
+                                      << "drive";
+    QTest::newRow("hard disk inside") << "pci0/ata1/host0" << false << "/dev/sdx1"
+                                      << "";
+    QTest::newRow("unknown device") << "pci0/usb1/1-2/host6" << true << "/dev/sdy1"
+                                    << "";
+}
+
+void tst_usbDrives::drivesOfTheMachineAreRemovableWhereverTheyAreMounted()
+{
+    QFETCH(QString, bus);
+    QFETCH(bool, removable);
+    QFETCH(QString, device);
+    machine_t machine;
+    machine.addDisk(bus, "sdx", removable);
+    machine.mount(device, "/data/drive");
+    melvox_kit::setUsbMounts(&machine, machine.sys());
+    usbDriveManager_t const manager;
+    QTEST(names(manager.drives()), "found");
+}
+
+void tst_usbDrives::drivesOfTheMachineAreNamedAfterTheirLabels()
+{
+    machine_t machine;
+    machine.mount("/dev/sdc1", "/media/user/1234-ABCD", "Tractor");
+    machine.mount("/dev/sdb1", "/media/user/5678-ABCD", "Combine");
+    melvox_kit::setUsbMounts(&machine, machine.sys());
+    usbDriveManager_t const manager;
+    QCOMPARE(names(manager.drives()), QString("Combine Tractor"));
+}
+
+void tst_usbDrives::drivesOfTheMachineComeAndGo()
+{
+    machine_t machine;
+    melvox_kit::setUsbMounts(&machine, machine.sys());
+    usbDriveManager_t manager;
+    usbDriveSelectDialog_t const dialog(&manager, nullptr);
+    QSignalSpy changed(&manager, SIGNAL(drivesChanged()));
+    QVERIFY(manager.drives().isEmpty());
+    machine.mount("/dev/sdb1", "/media/STICK");
+    QCOMPARE(changed.count(), 1);
+    QCOMPARE(rows(dialog), QString("STICK"));
+    machine.unmount("/media/STICK");
+    QCOMPARE(changed.count(), 2);
+    QCOMPARE(rows(dialog), QString());
+}
+
+void tst_usbDrives::machineWithoutChangeTellsNothing()
+{
+    machine_t machine;
+    machine.mount("/dev/sdb1", "/media/STICK");
+    melvox_kit::setUsbMounts(&machine, machine.sys());
+    usbDriveManager_t manager;
+    QSignalSpy changed(&manager, SIGNAL(drivesChanged()));
+    machine.mount("/dev/vda2", "/home");
+    machine.unmount("/home");
+    QCOMPARE(changed.count(), 0);
+}
+
+void tst_usbDrives::foldersTakeThePlaceOfTheMachine()
+{
+    plugIn("STICK1");
+    machine_t machine;
+    machine.mount("/dev/sdb1", "/media/REAL");
+    usbDriveManager_t const manager;
+    QCOMPARE(names(manager.drives()), QString("STICK1"));
+    melvox_kit::setUsbMounts(&machine, machine.sys());
+    QCOMPARE(names(manager.drives()), QString("REAL"));
+    melvox_kit::setUsbRoot(m_root.absolutePath());
+    QCOMPARE(names(manager.drives()), QString("STICK1"));
+    machine.unmount("/media/REAL");
+    QCOMPARE(names(manager.drives()), QString("STICK1"));
+}
+
+void tst_usbDrives::machineThatIsGoneHasNoDrives()
+{
+    QScopedPointer<machine_t> machine(new machine_t);
+    machine->mount("/dev/sdb1", "/media/STICK");
+    melvox_kit::setUsbMounts(machine.data(), machine->sys());
+    usbDriveManager_t manager;
+    QSignalSpy changed(&manager, SIGNAL(drivesChanged()));
+    machine.reset();
+    QCOMPARE(changed.count(), 1);
+    QVERIFY(manager.drives().isEmpty());
+}
+
+void tst_usbDrives::thisMachineIsRead()
+{
+    QScopedPointer<melvox_kit::mountTable_t> const machine(melvox_kit::createSystemMounts());
+#if QT_VERSION < 0x050400
+    QVERIFY(!machine);
+#else
+    QList<melvox_kit::mount_t> const mounts = machine->mounts();
+    bool hasRoot = false;
+    for (int i = 0; i < mounts.size(); ++i)
+        hasRoot = hasRoot || mounts.at(i).path == "/";
+    QVERIFY(hasRoot);
+#endif
 }
 
 void tst_usbDrives::dialogListsTheDrives()
