@@ -116,6 +116,7 @@ QWidget* displayDialogHost_t::takeView(QDialog* dialog)
     }
     QScrollArea* view = static_cast<QScrollArea*>(m_spareViews.takeLast());
     view->widget()->layout()->addWidget(dialog);
+    leaveOutMissingTitles(dialog);
     view->verticalScrollBar()->setValue(0);
     return view;
 }

@@ -1,10 +1,15 @@
 #include "display/scrollView.h"
 
+#include <QApplication>
+#include <QEvent>
 #include <QFrame>
+#include <QGroupBox>
 #include <QScrollArea>
 #include <QScroller>
 #include <QScrollerProperties>
+#include <QStyle>
 #include <QVBoxLayout>
+#include <QVariant>
 
 namespace melvox_display
 {
@@ -26,6 +31,19 @@ void scrollByFinger(QAbstractScrollArea* area)
     scroller->setScrollerProperties(properties);
 }
 
+void leaveOutMissingTitles(QWidget* content)
+{
+    for (QGroupBox* group : content->findChildren<QGroupBox*>())
+    {
+        if (!group->title().isEmpty() || group->property("untitled").toBool())
+            continue;
+        group->setProperty("untitled", true);
+        group->style()->polish(group);
+        QEvent change(QEvent::StyleChange);
+        QApplication::sendEvent(group, &change);
+    }
+}
+
 QScrollArea* createScrollView(QWidget* content, QWidget* parent)
 {
     QScrollArea* area = new QScrollArea(parent);
@@ -39,6 +57,7 @@ QScrollArea* createScrollView(QWidget* content, QWidget* parent)
     QVBoxLayout* layout = new QVBoxLayout(holder);
     layout->setContentsMargins(0, 0, 0, 0);
     layout->addWidget(content);
+    leaveOutMissingTitles(content);
     // A tap beside everything leaves the field one was in.
     holder->setFocusPolicy(Qt::ClickFocus);
     area->setFocusProxy(holder);

@@ -15,6 +15,10 @@ QScrollArea* createScrollView(QWidget* content, QWidget* parent);
 /** Lets a finger scroll these contents. */
 void scrollByFinger(QAbstractScrollArea* area);
 
+/** Groups keep no room for a title that they do not have; a style sheet alone cannot tell them. Done by
+ *  createScrollView(). */
+void leaveOutMissingTitles(QWidget* content);
+
 } // namespace melvox_display
 
 #endif

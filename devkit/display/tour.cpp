@@ -42,8 +42,7 @@ namespace
 int const ANSWER_MS = 5000;
 int const REACTION_MS = 1500;
 int const SCENE_MS = 60000; // a scan of a drive, half a firmware update, on a busy machine
-/** Of what the receiver tells by itself, once a second. */
-int const REPORT_MS = 3000;
+int const REPORT_MS = 3000; // of what the receiver tells by itself, once a second
 
 bool waitUntil(std::function<bool()> const& condition, int milliseconds)
 {

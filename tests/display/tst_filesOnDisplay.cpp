@@ -18,6 +18,7 @@
 #include <QApplication>
 #include <QProcess>
 #include <QProgressBar>
+#include <QScrollArea>
 #include <QScrollBar>
 #include <QTemporaryDir>
 
@@ -98,6 +99,26 @@ struct fixture_t
         return compared;
     }
 
+    /** What of a page cannot be seen as a whole. */
+    QStringList cutOff(QWidget* page)
+    {
+        QStringList faults;
+        for (QScrollArea* view : window.screen()->pageArea()->findChildren<QScrollArea*>("pageView"))
+        {
+            if (view->isVisible() && view->verticalScrollBar()->maximum() > 0)
+                faults << QString("scrolls by %1").arg(view->verticalScrollBar()->maximum());
+        }
+        for (QWidget* widget : page->findChildren<QWidget*>())
+        {
+            bool const matters = qobject_cast<QLabel*>(widget) || qobject_cast<QAbstractButton*>(widget) ||
+                                 qobject_cast<QAbstractScrollArea*>(widget) || qobject_cast<QComboBox*>(widget);
+            if (matters && widget->isVisible() && widget->window() == &window &&
+                !widget->objectName().startsWith("qt_") && !widget->parentWidget()->rect().contains(widget->geometry()))
+                faults << widget->objectName();
+        }
+        return faults;
+    }
+
     /** What the receiver says that it runs. */
     QString version(std::string const& component)
     {
@@ -142,6 +163,51 @@ class tst_filesOnDisplay : public melvox_test::test_t
 
 private slots:
     void initTestCase() { applyDisplayStyle(*qApp); }
+
+    void screensFitTheSmallestUnit_data()
+    {
+        QTest::addColumn<QString>("name");
+        QTest::addColumn<int>("port");
+        QTest::addColumn<QString>("sign");
+        QTest::newRow("web interface") << "webInterface" << 0 << "noteLabel";
+        QTest::newRow("web interface with its warning") << "webInterface" << 7 << "warningLabel";
+        QTest::newRow("firmware update") << "firmwareUpdate" << 0 << "packageTreeWidget";
+        QTest::newRow("profiles") << "settingsProfiles" << 0 << "profileList";
+        QTest::newRow("information") << "receiverInformation" << 0 << "lteRssiLabel";
+    }
+
+    void screensFitTheSmallestUnit()
+    {
+        QFETCH(QString, name);
+        QFETCH(int, port);
+        QFETCH(QString, sign);
+        fixture_t f;
+        QVERIFY(f.ready);
+        f.unit.receiver()->setActivePort(f.unit.localLink()->receiverEnd(), unsigned(port));
+        QVERIFY(waitFor([&]() { return f.unit.device()->activePort() == port; }));
+        QWidget* const page = f.page(name);
+        QWidget const* const shown = find<QWidget>(page, sign);
+        QVERIFY(waitFor([&]() { return shown->isVisible(); }));
+        QCOMPARE(f.cutOff(page).join(", "), QString());
+    }
+
+    void listsOfFilesFitTheSmallestUnit()
+    {
+        fixture_t f;
+        QVERIFY(f.ready);
+        f.usb.makeDir("STICK");
+        for (char const* name : {"STICK/a.srec", "STICK/b.srec", "STICK/c.srec"})
+            makePackage(f.usb.path(name));
+        tap(f.page("firmwareUpdate"), "Select Package");
+        QVERIFY(f.dialog("usbDriveSelectDialog"));
+        QCOMPARE(f.cutOff(f.dialog("usbDriveSelectDialog")).join(", "), QString());
+        f.chooseDrive("STICK");
+        QDialog* const files = f.dialog("melvoxUiUsbFirmwareSelectDialog");
+        QTreeWidget* const tree = find<QTreeWidget>(files, "treeWidget");
+        QVERIFY(waitFor([&]() { return tree->topLevelItemCount() == 3; }));
+        QCOMPARE(f.cutOff(files).join(", "), QString());
+        QVERIFY(tree->visualItemRect(tree->topLevelItem(1)).bottom() < tree->viewport()->height());
+    }
 
     void aPackageFromADriveBecomesTheFirmware()
     {
@@ -242,6 +308,45 @@ private slots:
         QWidget* const page = f.page("solutionControl");
         QVERIFY(waitFor([&]() { return labelText(page, "elevationMaskLabel") == "12.5"; }));
         QVERIFY(waitFor([&]() { return f.unit.device()->port()->lockState() == brel_common_qt::PORT_LOCK_NONE; }));
+    }
+
+    void aDriveThatIsPulledOutDuringADumpIsTold()
+    {
+        fixture_t f;
+        QVERIFY(f.ready);
+        f.usb.makeDir("STICK");
+        f.unit.localLink()->setLatency(200);
+        f.page("dumpProfile");
+        f.chooseDrive("STICK");
+        QDialog* const dump = f.dialog("melvoxUiProfileDumpDialog");
+        QCOMPARE(labelText(dump, "statusLabel"), QString("Dumping..."));
+        melvox_test::folder_t::remove(f.usb.path("STICK"));
+        QVERIFY(
+            waitFor([&]() { return labelText(dump, "statusLabel").startsWith("The profile could not be written: "); }));
+        QVERIFY(!QFile::exists(f.usb.path("STICK")));
+    }
+
+    void aPackageThatIsCutOffDuringAnUpdateIsTold()
+    {
+        fixture_t f;
+        QVERIFY(f.ready);
+        f.usb.makeDir("STICK");
+        makePackage(f.usb.path("STICK/release.srec"));
+        QWidget* const page = f.page("firmwareUpdate");
+        tap(page, "Select Package");
+        f.chooseDrive("STICK");
+        f.chooseFile("melvoxUiUsbFirmwareSelectDialog", "release.srec", "Select Package");
+        f.unit.localLink()->setLatency(50);
+        tap(page, "Start Update");
+        QProgressBar* const bar = find<QProgressBar>(page, "progressBar");
+        QVERIFY(waitFor([&]() { return bar->value() > 0; }));
+        QVERIFY(QFile::resize(f.usb.path("STICK/release.srec"), 100));
+        QMessageBox* const box = f.card();
+        QVERIFY(box);
+        QCOMPARE(box->windowTitle(), QString("Firmware Update Failed"));
+        QCOMPARE(labelText(page, "statusLabel"), QString("The file ended too early"));
+        box->button(QMessageBox::Ok)->click();
+        QVERIFY(waitFor([&]() { return f.version("NAV") == "1.14.40"; }));
     }
 
     void anAlteredProfileChangesNothing()
