@@ -1,28 +1,13 @@
-#include "brel_common_qt/remoteMelvoxDevice.h"
+#include "wholeUnit.h"
+
 #include "brel_common_qt/textHelpers.h"
 #include "display/displayStyle.h"
-#include "display/displayWindow.h"
-#include "display/keypad.h"
-#include "display/screen.h"
-#include "display/statusStrip.h"
-#include "display/uiSettings.h"
-#include "display/unit.h"
-#include "link/localLink.h"
 #include "melvox_ui/melvoxUiDtmWarnDialog.h"
 #include "melvox_ui/melvoxUiPhysicalPortConfigDialog.h"
 #include "melvox_ui/melvoxUiVirtualPortConfigDialog.h"
 #include "melvox_ui/melvoxUiWiFiPasskeyDialog.h"
-#include "receiver/receiver.h"
-#include "support/operator.h"
-#include "support/test.h"
 
-#include <QAbstractButton>
-#include <QApplication>
 #include <QCheckBox>
-#include <QDialogButtonBox>
-#include <QPushButton>
-#include <QScrollArea>
-#include <QTemporaryDir>
 
 using namespace melvox_display;
 using namespace brel_common_qt;
@@ -36,54 +21,12 @@ using melvox_test::waitFor;
 namespace
 {
 
-/** A whole unit with one page on its screen. */
-struct fixture_t
+/** A whole unit of which one reads rows. */
+struct fixture_t : melvox_test::wholeUnit_t
 {
-    fixture_t(QString const& name, QString const& settingsFile)
-        : unit(connection_t()), settings(settingsFile), window(allPages(), &unit, &settings, QSize(800, 480))
-    {
-        unit.localLink()->setLatency(1);
-        unit.start();
-        window.showFirstPage(name);
-        window.show();
-        window.activateWindow();
-        QVERIFY(QTest::qWaitForWindowActive(&window));
-        page = window.screen()->page(name);
-        // Whatever is asked for last is there.
-        QVERIFY(waitFor(
-            [this]()
-            {
-                return unit.device()->activePortValid() && unit.device()->portTxRxInfo(MELVOX_PORT_ETH8) &&
-                       unit.device()->ethernetConfig(MELVOX_ETH_CFG_SOURCE_CABLE) && unit.device()->usbModeValid();
-            }));
-        melvox_test::settle();
-    }
+    using melvox_test::wholeUnit_t::wholeUnit_t;
 
-    void tap(QWidget* widget)
-    {
-        for (QWidget* above = widget->parentWidget(); above; above = above->parentWidget())
-        {
-            if (QScrollArea* view = qobject_cast<QScrollArea*>(above))
-                view->ensureWidgetVisible(widget);
-        }
-        melvox_test::settle();
-        QPoint const place = widget->mapTo(&window, widget->rect().center());
-        QTest::mouseClick(window.windowHandle(), Qt::LeftButton, Qt::NoModifier, place);
-        melvox_test::settle();
-    }
-
-    void tapIn(QString const& box, QString const& button)
-    {
-        tap(melvox_test::button(find<QDialogButtonBox>(page, box), button));
-    }
-
-    void selectRow(QString const& tree, QString const& name)
-    {
-        QTreeWidget* const rows = find<QTreeWidget>(page, tree);
-        QList<QTreeWidgetItem*> const found = rows->findItems(name, Qt::MatchExactly);
-        QVERIFY2(!found.isEmpty(), qPrintable(name));
-        rows->setCurrentItem(found.first());
-    }
+    void selectRow(QString const& tree, QString const& name) { tapRow(find<QTreeWidget>(page, tree), name); }
 
     QString rowText(QString const& tree, QString const& name, int column)
     {
@@ -91,27 +34,10 @@ struct fixture_t
         return found.isEmpty() ? QString() : found.first()->text(column);
     }
 
-    void press(QString const& keys)
-    {
-        for (QString const& name : keys.split(' '))
-        {
-            QPushButton* found = nullptr;
-            for (QPushButton* key : window.screen()->keypad()->findChildren<QPushButton*>("key_" + name))
-                found = key->isVisible() ? key : found;
-            QVERIFY2(found, qPrintable("no key " + name));
-            tap(found);
-        }
-    }
-
-    QVariantMap record(QString const& group, int index)
+    QVariantMap portRecord(QString const& group, int index)
     {
         return unit.receiver()->setting(group).toList().value(index).toMap();
     }
-
-    unit_t unit;
-    uiSettings_t settings;
-    displayWindow_t window;
-    QWidget* page;
 };
 
 } // namespace
@@ -246,7 +172,7 @@ void tst_operatingPorts::changesALine()
     f.tap(melvox_test::button(dialog, "OK"));
     QVERIFY(waitFor([&]() { return f.rowText("physicalTreeWidget", "COM3", 1) == "9600"; }));
     QCOMPARE(f.rowText("physicalTreeWidget", "COM3", 3), QString("Even"));
-    QCOMPARE(f.record("serialConfig", 2).value("baud").toInt(), 9600);
+    QCOMPARE(f.portRecord("serialConfig", 2).value("baud").toInt(), 9600);
 }
 
 void tst_operatingPorts::movesItsOwnLine()
@@ -276,7 +202,7 @@ void tst_operatingPorts::speedsUpAnOwnLineThatIsTooSlow()
     QVERIFY(waitFor([]() { return melvox_test::openBox() != nullptr; }));
     QVERIFY(melvox_test::openBox()->text().contains("(9600)"));
     melvox_test::closeBox();
-    QVERIFY(waitFor([&]() { return f.record("serialConfig", 0).value("baud").toInt() == 115200; }));
+    QVERIFY(waitFor([&]() { return f.portRecord("serialConfig", 0).value("baud").toInt() == 115200; }));
     melvox_link::line_t line = melvox_link::line_t();
     QVERIFY(f.unit.localLink()->displayEnd()->line(line));
     QCOMPARE(line.baud, 115200u);
@@ -292,13 +218,11 @@ void tst_operatingPorts::enablesAVirtualPort()
     QWidget* const dialog = f.window.findChild<melvoxUiVirtualPortConfigDialog_t*>();
     QVERIFY(dialog->isVisible());
     choose(dialog, "enabledCombo", "Yes");
-    f.tap(find<QLineEdit>(dialog, "localPortLineEdit"));
-    QVERIFY(f.window.screen()->keypad()->isOpen());
-    f.press("6 1 2 3 done");
+    f.typeInto(find<QLineEdit>(dialog, "localPortLineEdit"), "6 1 2 3 done");
     f.tap(melvox_test::button(dialog, "OK"));
     QVERIFY(waitFor([&]() { return f.rowText("virtualTreeWidget", "ETH3", 1) == YesString; }));
     QCOMPARE(f.rowText("virtualTreeWidget", "ETH3", 5), QString("6123"));
-    QCOMPARE(f.record("vcomConfig", 2).value("localPort").toInt(), 6123);
+    QCOMPARE(f.portRecord("vcomConfig", 2).value("localPort").toInt(), 6123);
 }
 
 void tst_operatingPorts::makesTheUsbPortAMassStorage()
