@@ -6,6 +6,7 @@
 #include "link/scriptedLink.h"
 
 #include <QApplication>
+#include <QMessageBox>
 
 #include <benchmark/benchmark.h>
 
@@ -47,6 +48,52 @@ template <typename form_t, typename base_t = QWidget> void buildForm(benchmark::
         form_t form;
         form.setupUi(&widget);
         benchmark::DoNotOptimize(&widget);
+    }
+}
+
+template <typename form_t> struct bareDialog_t : QDialog
+{
+    explicit bareDialog_t(QWidget* parent) : QDialog(parent) { form.setupUi(this); }
+    form_t form;
+};
+
+struct bareQuestion_t : QMessageBox
+{
+    explicit bareQuestion_t(QWidget* parent)
+        : QMessageBox(QMessageBox::Question, "title", "text", QMessageBox::Yes | QMessageBox::No, parent)
+    {
+    }
+};
+
+/** A page's form and those of the dialogs that belong to it. */
+template <typename form_t, typename... dialogs_t> void buildForms(benchmark::State& state)
+{
+    for (auto _ : state)
+    {
+        QWidget widget;
+        form_t form;
+        form.setupUi(&widget);
+        (new dialogs_t(&widget), ...);
+        benchmark::DoNotOptimize(&widget);
+    }
+}
+
+template <typename dialog_t> void buildDialog(benchmark::State& state)
+{
+    receiver_t receiver;
+    for (auto _ : state)
+    {
+        dialog_t dialog(receiver.device.get(), nullptr);
+        benchmark::DoNotOptimize(&dialog);
+    }
+}
+
+template <typename dialog_t> void buildPlainDialog(benchmark::State& state)
+{
+    for (auto _ : state)
+    {
+        dialog_t dialog(nullptr);
+        benchmark::DoNotOptimize(&dialog);
     }
 }
 

@@ -15,58 +15,15 @@
 #include "ui_melvoxUiVirtualPortConfigDialog.h"
 #include "ui_melvoxUiWiFiPasskeyDialog.h"
 
-#include <QMessageBox>
-
 using namespace brel_common_qt_gui;
+using melvox_bench::bareDialog_t;
+using melvox_bench::bareQuestion_t;
+using melvox_bench::buildDialog;
+using melvox_bench::buildForms;
+using melvox_bench::buildPlainDialog;
 
 namespace
 {
-
-template <typename form_t> struct bareDialog_t : QDialog
-{
-    explicit bareDialog_t(QWidget* parent) : QDialog(parent) { form.setupUi(this); }
-    form_t form;
-};
-
-struct bareQuestion_t : QMessageBox
-{
-    explicit bareQuestion_t(QWidget* parent)
-        : QMessageBox(QMessageBox::Question, "title", "text", QMessageBox::Yes | QMessageBox::No, parent)
-    {
-    }
-};
-
-/** A page's form and those of the dialogs that belong to it. */
-template <typename form_t, typename... dialogs_t> void buildForms(benchmark::State& state)
-{
-    for (auto _ : state)
-    {
-        QWidget widget;
-        form_t form;
-        form.setupUi(&widget);
-        (new dialogs_t(&widget), ...);
-        benchmark::DoNotOptimize(&widget);
-    }
-}
-
-template <typename dialog_t> void buildDialog(benchmark::State& state)
-{
-    melvox_bench::receiver_t receiver;
-    for (auto _ : state)
-    {
-        dialog_t dialog(receiver.device.get(), nullptr);
-        benchmark::DoNotOptimize(&dialog);
-    }
-}
-
-template <typename dialog_t> void buildPlainDialog(benchmark::State& state)
-{
-    for (auto _ : state)
-    {
-        dialog_t dialog(nullptr);
-        benchmark::DoNotOptimize(&dialog);
-    }
-}
 
 typedef bareDialog_t<Ui_melvoxUiDtmWarnDialog> bareDtmWarn_t;
 typedef bareDialog_t<Ui_melvoxUiPhysicalPortConfigDialog> barePhysical_t;
