@@ -32,11 +32,13 @@ BREL_COMMON_QT_EXPORT QString stopBitsString(stopBits_t stopBits);
 
 /** A latitude or longitude in degrees, in the format of the options. Rounded once, in its last part, and carried
  *  from there: minutes and seconds never read 60. Default precision: 9 decimals of a degree, 7 of a minute, 5 of a
- *  second. A value that is no number, a latitude beyond 90 or a longitude beyond 360 degrees gives the no-data text. */
+ *  second. A longitude is brought within 180 degrees east or west: 190 reads 170 W. A value that is no number, a latitude
+ *  beyond 90 or a longitude beyond 360 degrees gives the no-data text. */
 BREL_COMMON_QT_EXPORT QString latitudeString(double degrees, latLonStringOptions_t const& options);
 BREL_COMMON_QT_EXPORT QString longitudeString(double degrees, latLonStringOptions_t const& options);
 
-/** A distance in the unit, with so many decimals, a blank and the unit's symbol ("m" or "ft"). */
+/** A distance in the unit, with so many decimals, a blank and the unit's symbol ("m" or "ft"). One that is no number, or
+ *  infinite, gives the no-data text. */
 BREL_COMMON_QT_EXPORT QString distanceString(double metres, distanceUnit_t unit, int decimals);
 
 } // namespace brel_common_qt
