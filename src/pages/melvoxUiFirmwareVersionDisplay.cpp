@@ -39,6 +39,8 @@ void melvoxUiFirmwareVersionDisplay_t::updateText()
     QScrollBar* const bar = m_data->textEdit->verticalScrollBar();
     int const place = bar->value();
     m_data->textEdit->clear();
+    if (m_data->device->firmwareVersions().empty())
+        return;
     QTextCharFormat bold;
     bold.setFontWeight(QFont::Bold);
     QTextCharFormat normal;
