@@ -10,7 +10,6 @@ namespace melvox_link
 namespace
 {
 
-int const DEFAULT_DELAY = 500; // milliseconds
 char const* const FAULT_NAMES[NUM_FAULTS] = {"drop", "delay", "duplicate", "reorder", "garble"};
 char const* const GARBAGE = "\177~garbled~";
 
@@ -46,7 +45,7 @@ QStringList faultNames()
 }
 
 faultFilter_t::faultFilter_t(link_t* link, QObject* parent)
-    : link_t(parent), m_link(link), m_delay(DEFAULT_DELAY), m_strikes(), m_generator(1)
+    : link_t(parent), m_link(link), m_delay(USUAL_DELAY), m_strikes(), m_generator(1)
 {
     m_clock.start();
     m_timer.setSingleShot(true);

@@ -54,6 +54,11 @@ class faultFilter_t : public link_t
     Q_OBJECT
 
 public:
+    enum
+    {
+        USUAL_DELAY = 500 //!< milliseconds
+    };
+
     explicit faultFilter_t(melvox_link::link_t* link, QObject* parent = 0);
     ~faultFilter_t();
 
@@ -76,8 +81,8 @@ public:
     /** Starts the sequence of chances anew. 1 at first. */
     void setSeed(unsigned int seed);
 
-    /** How long FAULT_DELAY holds a message, and how long FAULT_REORDER waits for the next one, in milliseconds; 500
-     *  at first. Holds for messages that come from now on. */
+    /** How long FAULT_DELAY holds a message, and how long FAULT_REORDER waits for the next one, in milliseconds;
+     *  USUAL_DELAY at first. Holds for messages that come from now on. */
     void setDelay(int milliseconds);
 
     /** How often each fault has struck. */

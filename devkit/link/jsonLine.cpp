@@ -56,8 +56,6 @@ QVariant fromNumber(double number)
     return number;
 }
 
-bool fromJson(QJsonValue const& json, QVariant& value, QString& reason);
-
 bool valueFromObject(QJsonObject const& object, QVariant& value, QString& reason)
 {
     if (object.size() == 1 && object.contains(BASE64))
@@ -81,6 +79,8 @@ bool valueFromObject(QJsonObject const& object, QVariant& value, QString& reason
     value = map;
     return true;
 }
+
+} // namespace
 
 bool fromJson(QJsonValue const& json, QVariant& value, QString& reason)
 {
@@ -117,8 +117,6 @@ bool fromJson(QJsonValue const& json, QVariant& value, QString& reason)
     value = QVariant();
     return true;
 }
-
-} // namespace
 
 QJsonObject toObject(message_t const& message)
 {

@@ -5,6 +5,7 @@
 
 #include <QByteArray>
 #include <QJsonObject>
+#include <QJsonValue>
 
 namespace melvox_link
 {
@@ -18,6 +19,8 @@ bool fromLine(QByteArray const& line, message_t& message, QString& reason);
 /** The same for lines that tell more than the message. */
 QJsonObject toObject(message_t const& message);
 bool fromObject(QJsonObject const& object, message_t& message, QString& reason);
+/** Reads the value of a message. */
+bool fromJson(QJsonValue const& json, QVariant& value, QString& reason);
 
 } // namespace melvox_link
 

@@ -50,6 +50,11 @@ void localLink_t::makeSerial(line_t const& line)
     m_line = line;
 }
 
+void localLink_t::makePlain()
+{
+    m_serial = false;
+}
+
 void localLink_t::send(message_t const& message)
 {
     if (isOpen())

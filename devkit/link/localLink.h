@@ -28,8 +28,9 @@ public:
 
     void setCut(bool cut) override;
 
-    /** Makes this end one of a serial line; without it the link is of no such kind. */
+    /** Makes this end one of a serial line, or of none, as at first. */
     void makeSerial(melvox_link::line_t const& line);
+    void makePlain();
 
     /** Opens or closes the link for both ends; both hear of it before this returns. What is under way is lost. */
     void setOpen(bool open);

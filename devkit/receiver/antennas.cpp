@@ -25,6 +25,11 @@ behaviour_t::answer_t antennas_t::request(link_t* from, QString const& group)
     return DONE;
 }
 
+QStringList antennas_t::situations() const
+{
+    return {"antennaNamesAnew"};
+}
+
 behaviour_t::answer_t antennas_t::situation(QString const& name, QVariant const& value)
 {
     if (name != "antennaNamesAnew")

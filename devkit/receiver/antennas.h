@@ -19,6 +19,7 @@ public:
     explicit antennas_t(receiver_t& receiver);
 
     answer_t request(link_t* from, QString const& group) override;
+    QStringList situations() const override;
     answer_t situation(QString const& name, QVariant const& value) override;
     void settingChanged(QString const& group) override;
     void linkClosed(link_t* link) override;

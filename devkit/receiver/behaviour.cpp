@@ -19,6 +19,11 @@ behaviour_t::answer_t behaviour_t::command(link_t*, QString const&, QVariant con
     return NOT_MINE;
 }
 
+QStringList behaviour_t::situations() const
+{
+    return QStringList();
+}
+
 behaviour_t::answer_t behaviour_t::situation(QString const&, QVariant const&)
 {
     return NOT_MINE;

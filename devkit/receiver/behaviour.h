@@ -25,7 +25,9 @@ public:
     virtual answer_t request(link_t* from, QString const& group);
     virtual answer_t command(link_t* from, QString const& group, QVariant const& value);
 
-    /** Something is another way around the receiver; each behaviour documents the names that are its business. */
+    /** Something is another way around the receiver; each behaviour documents the names that are its business, and lists
+     *  them: of others it does not hear. */
+    virtual QStringList situations() const;
     virtual answer_t situation(QString const& name, QVariant const& value);
 
     /** What this behaviour knows at a time of the simulated clock and others may ask it by name, such as

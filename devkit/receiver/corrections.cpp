@@ -54,6 +54,11 @@ behaviour_t::answer_t corrections_t::command(link_t*, QString const& group, QVar
     return DONE;
 }
 
+QStringList corrections_t::situations() const
+{
+    return {"correctionReports", "correctionSatsInView", "newAlmanac"};
+}
+
 behaviour_t::answer_t corrections_t::situation(QString const& name, QVariant const& value)
 {
     if (name == "correctionReports")

@@ -23,6 +23,7 @@ public:
     explicit corrections_t(receiver_t& receiver);
 
     answer_t command(link_t* from, QString const& group, QVariant const& value) override;
+    QStringList situations() const override;
     answer_t situation(QString const& name, QVariant const& value) override;
     void settingChanged(QString const& group) override;
     void restarted() override;

@@ -27,6 +27,8 @@ int const WRITING = 3000; // milliseconds for one component
 /** Of the whole, what drawing the files takes; the rest is writing. */
 double const FETCHING_SHARE = 0.7;
 
+int const POWER_CUT = 10; // seconds
+
 char const* const INCOMPLETE = "incomplete";
 
 QMap<int, QString> const DELIVERED = {{0, "2.0.4"},  {1, "2.1.0"}, {2, "1.14.40"}, {4, "1.0.3"}, {5, "1.0.5"},
@@ -49,6 +51,21 @@ rule_t updateRule()
                    {"combinedSize", optional(whole(-1, LARGEST_FILE), 0)}});
 }
 
+QVariantMap versionRecord(int component, QString const& version)
+{
+    return {{"component", nameOf(component)}, {"version", version}};
+}
+
+/** Which component of an update somebody means. */
+bool isComponentChoice(QVariant const& value)
+{
+    if (isNumber(value))
+        return value.toInt() >= 1 && value.toInt() <= NUM_COMPONENTS && value.toDouble() == value.toInt();
+    if (value.userType() != QMetaType::QString)
+        return false;
+    return value.toString().isEmpty() || melvox_firmware::componentFromName(value.toString().toStdString()) >= 0;
+}
+
 QVariantMap stateRecord(int state, QString const& description)
 {
     return {{"state", state}, {"description", description}};
@@ -67,7 +84,7 @@ behaviour_t::answer_t firmware_t::request(link_t* from, QString const& group)
     if (group != "firmwareVersions")
         return NOT_MINE;
     for (auto it = m_runningVersions.begin(); it != m_runningVersions.end(); ++it)
-        receiver.report(from, "firmwareVersion", QVariantMap{{"component", nameOf(it.key())}, {"version", it.value()}});
+        receiver.report(from, "firmwareVersion", versionRecord(it.key(), it.value()));
     if (!m_untold.isEmpty())
         receiver.report(from, "firmwareUpdateState", m_untold);
     m_untold.clear();
@@ -81,15 +98,44 @@ behaviour_t::answer_t firmware_t::command(link_t* from, QString const& group, QV
     return group == "fileBlock" ? go(m_fetch.take(from, value)) : NOT_MINE;
 }
 
+QStringList firmware_t::situations() const
+{
+    return {"failingFirmware", "powerCutInFirmware", "firmwareVersions"};
+}
+
 behaviour_t::answer_t firmware_t::situation(QString const& name, QVariant const& value)
 {
-    if (name != "failingFirmware")
-        return NOT_MINE;
-    QString const component = value.toString();
-    if (!component.isEmpty() && melvox_firmware::componentFromName(component.toStdString()) < 0)
+    if (name == "firmwareVersions")
+        return setVersions(value);
+    if (!isComponentChoice(value))
         return UNREADABLE;
-    m_failing = component;
+    (name == "failingFirmware" ? m_failing : m_powerCutIn) = value;
     return DONE;
+}
+
+behaviour_t::answer_t firmware_t::setVersions(QVariant const& versions)
+{
+    QVariantMap const map = versions.toMap();
+    for (auto it = map.begin(); it != map.end(); ++it)
+    {
+        if (melvox_firmware::componentFromName(it.key().toStdString()) < 0 || it->userType() != QMetaType::QString)
+            return UNREADABLE;
+    }
+    for (auto it = map.begin(); it != map.end(); ++it)
+    {
+        int const component = melvox_firmware::componentFromName(it.key().toStdString());
+        m_runningVersions[component] = m_storedVersions[component] = it->toString();
+        receiver.report("firmwareVersion", versionRecord(component, it->toString()));
+    }
+    return map.isEmpty() ? UNREADABLE : DONE;
+}
+
+/** The component that is being written. */
+bool firmware_t::isMeant(QVariant const& which) const
+{
+    if (isNumber(which))
+        return which.toInt() == m_current + 1;
+    return nameOf(m_components.at(m_current).component).compare(which.toString(), Qt::CaseInsensitive) == 0;
 }
 
 /** Told to start while it is at it, the receiver goes on with what it does. */
@@ -257,7 +303,7 @@ void firmware_t::writeNext()
 void firmware_t::finishWriting()
 {
     component_t& written = m_components[m_current];
-    bool const good = nameOf(written.component).compare(m_failing, Qt::CaseInsensitive) != 0;
+    bool const good = !isMeant(m_failing);
     written.status = good ? SUCCESS : FAILURE;
     if (good)
         m_storedVersions[written.component] = written.version;
@@ -349,7 +395,7 @@ void firmware_t::restarted()
     }
     m_runningVersions = m_storedVersions;
     for (auto it = m_runningVersions.begin(); it != m_runningVersions.end(); ++it)
-        receiver.report("firmwareVersion", QVariantMap{{"component", nameOf(it.key())}, {"version", it.value()}});
+        receiver.report("firmwareVersion", versionRecord(it.key(), it.value()));
 }
 
 void firmware_t::advance(int milliseconds)
@@ -363,8 +409,15 @@ void firmware_t::advance(int milliseconds)
         return;
     m_writing = qMax(0, m_writing - milliseconds);
     reportPercent();
-    if (m_writing == 0)
+    if (m_writing <= WRITING / 2 && isMeant(m_powerCutIn))
+    {
+        m_powerCutIn.clear();
+        receiver.setSituation("powerCut", POWER_CUT);
+    }
+    else if (m_writing == 0)
+    {
         finishWriting();
+    }
 }
 
 } // namespace melvox_receiver

@@ -15,7 +15,10 @@ namespace melvox_receiver
  *  are drawn and checked whole before any of them is written; written firmware runs after the next restart. A component
  *  whose writing was broken off has the version "incomplete" until it is written again.
  *
- *  Situation: "failingFirmware" is the name of a component that cannot be written, or empty. */
+ *  Situations:
+ *  - "failingFirmware": the component that cannot be written: its name, its place in the update from 1, or empty.
+ *  - "powerCutInFirmware": the component in the middle of whose writing the power is lost, once; likewise.
+ *  - "firmwareVersions": {component: version, ...}, what the receiver runs. */
 class firmware_t : public behaviour_t
 {
 public:
@@ -23,6 +26,7 @@ public:
 
     answer_t request(link_t* from, QString const& group) override;
     answer_t command(link_t* from, QString const& group, QVariant const& value) override;
+    QStringList situations() const override;
     answer_t situation(QString const& name, QVariant const& value) override;
     void linkClosed(link_t* link) override;
     void restarted() override;
@@ -48,6 +52,8 @@ private:
     QString checkFile(int first, int count);
     void writeNext();
     void finishWriting();
+    bool isMeant(QVariant const& which) const;
+    answer_t setVersions(QVariant const& versions);
     void finish();
     void fail(QString const& error);
     void end(int state, QString const& description);
@@ -69,8 +75,9 @@ private:
     qint64 m_total; //!< bytes
     QMap<int, QString> m_runningVersions;
     QMap<int, QString> m_storedVersions;
-    QString m_failing;
-    QVariantMap m_untold; //!< an outcome that the display was not there to hear
+    QVariant m_failing;    //!< a component, by its name or its place from 1
+    QVariant m_powerCutIn; //!< likewise
+    QVariantMap m_untold;  //!< an outcome that the display was not there to hear
 };
 
 } // namespace melvox_receiver

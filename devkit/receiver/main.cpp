@@ -1,9 +1,11 @@
 #include "link/ptyPort.h"
 #include "link/serialLink.h"
 #include "link/tcpServer.h"
+#include "receiver/displays.h"
 #include "receiver/outputPlace.h"
 #include "receiver/receiver.h"
 #include "receiver/stopSignals.h"
+#include "scenarios/scenarioReader.h"
 
 #include <QCommandLineParser>
 #include <QCoreApplication>
@@ -44,10 +46,18 @@ void tellPlace(QString const& place)
 class program_t
 {
 public:
-    program_t() : m_receiver(&m_clock), m_serialPorts(0), m_displays(0) {}
+    program_t()
+        : m_receiver(&m_clock), m_displays(m_receiver), m_player(m_displays, m_clock), m_serialPorts(0),
+          m_tcpDisplays(0)
+    {
+    }
 
     /** From now on the receiver tells its solution and its heading by itself. */
     void report();
+
+    /** Before any display comes. */
+    void play(melvox_scenarios::scenario_t const& scenario, std::optional<double> speed);
+    void setSpeed(double speed) { m_clock.setSpeed(speed); }
 
     bool listenTcp(QString const& text, QString& error);
     bool openPty(QString& error);
@@ -62,17 +72,25 @@ private:
     simClock_t m_clock;
     std::vector<std::unique_ptr<QObject>> m_places;
     receiver_t m_receiver;
+    displays_t m_displays;
+    melvox_scenarios::scenarioPlayer_t m_player;
     std::vector<std::unique_ptr<outputPlace_t>> m_outputs;
     unsigned int m_serialPorts;
-    unsigned int m_displays;
+    unsigned int m_tcpDisplays;
 };
 
 void program_t::report()
 {
-    m_receiver.setSituation("solutionReports", true);
-    m_receiver.setSituation("headingReports", true);
-    m_receiver.setSituation("correctionReports", true);
-    m_receiver.setSituation("outputs", true);
+    m_receiver.startReports();
+}
+
+void program_t::play(melvox_scenarios::scenario_t const& scenario, std::optional<double> speed)
+{
+    m_player.start(scenario, speed);
+    QStringList const left = leftToDisplays(scenario);
+    if (!left.isEmpty())
+        QTextStream(stdout) << "playing " << scenario.name << " without what is the display's: " << left.join(", ")
+                            << '\n';
 }
 
 bool program_t::listenTcp(QString const& text, QString& error)
@@ -99,7 +117,7 @@ bool program_t::listenTcp(QString const& text, QString& error)
                      [this](link_t* link)
                      {
                          unsigned int const count = NUM_PORTS - FIRST_VIRTUAL_PORT;
-                         m_receiver.addLink(link, FIRST_VIRTUAL_PORT + m_displays++ % count);
+                         m_displays.add(link, FIRST_VIRTUAL_PORT + m_tcpDisplays++ % count);
                      });
     tellPlace(server->description());
     m_places.push_back(std::move(server));
@@ -115,7 +133,7 @@ bool program_t::openPty(QString& error)
             tr("the system gives no pseudo-terminal (%1): close some programs and try again.").arg(port->errorText());
         return false;
     }
-    m_receiver.addLink(port.get(), nextSerialPort());
+    m_displays.add(port.get(), nextSerialPort());
     tellPlace(port->description());
     m_places.push_back(std::move(port));
     return true;
@@ -131,7 +149,7 @@ bool program_t::openSerial(QString const& device, QString& error)
                     .arg(device, link->errorText());
         return false;
     }
-    m_receiver.addLink(link.get(), nextSerialPort());
+    m_displays.add(link.get(), nextSerialPort());
     tellPlace(link->description());
     m_places.push_back(std::move(link));
     return true;
@@ -182,6 +200,33 @@ bool openPlaces(program_t& program, QCommandLineParser const& parser, QString& e
     return true;
 }
 
+/** What the options say of situation and time. */
+struct play_t
+{
+    std::optional<melvox_scenarios::scenario_t> scenario;
+    std::optional<double> speed;
+};
+
+bool readPlay(QCommandLineParser const& parser, play_t& play, QString& error)
+{
+    if (parser.isSet("speed"))
+    {
+        bool isNumber = false;
+        play.speed = parser.value("speed").toDouble(&isNumber);
+        if (!isNumber || *play.speed <= 0.0 || *play.speed > melvox_scenarios::FASTEST_SPEED)
+        {
+            error = tr("--speed takes a number above 0, at most %1, not \"%2\".")
+                        .arg(melvox_scenarios::FASTEST_SPEED)
+                        .arg(parser.value("speed"));
+            return false;
+        }
+    }
+    if (!parser.isSet("scenario"))
+        return true;
+    play.scenario.emplace();
+    return melvox_scenarios::loadScenario(parser.value("scenario"), *play.scenario, error);
+}
+
 } // namespace
 
 int main(int argc, char** argv)
@@ -206,6 +251,8 @@ int main(int argc, char** argv)
                       "port=tcp:[address:]port|port=pty"});
     parser.addOption(
         {"profiles", tr("Keep the profiles in this folder; without it they are forgotten in the end."), "folder"});
+    parser.addOption({"scenario", tr("Start in this situation, one of the kit's or one from a file."), "name|file"});
+    parser.addOption({"speed", tr("Let the time run so many times as fast."), "number"});
     parser.addOption({"quiet", tr("Tell nothing unless asked, and put nothing out unless there is an --output.")});
 
     if (!parser.parse(QCoreApplication::arguments()))
@@ -226,14 +273,21 @@ int main(int argc, char** argv)
         return fail(EXIT_WRONG_USE, tr("say where displays reach the receiver, with --tcp PORT, --pty or --serial "
                                        "DEVICE."));
 
+    QString error;
+    play_t play;
+    if (!readPlay(parser, play, error))
+        return fail(EXIT_WRONG_USE, error);
     stopSignals_t stopSignals;
     QObject::connect(&stopSignals, &stopSignals_t::stop, &application, &QCoreApplication::quit);
     program_t program;
     if (!parser.isSet("quiet"))
         program.report();
-    QString error;
     if (parser.isSet("profiles") && !program.keepProfiles(parser.value("profiles"), error))
         return fail(EXIT_FAILURE, error);
+    if (play.scenario)
+        program.play(*play.scenario, play.speed);
+    else if (play.speed)
+        program.setSpeed(*play.speed);
     if (!openPlaces(program, parser, error))
         return fail(EXIT_FAILURE, error);
     return application.exec();

@@ -38,8 +38,8 @@ lteState_t const LTE_STATES[] = {
 } // namespace
 
 modem_t::modem_t(receiver_t& owner)
-    : behaviour_t(owner), m_on(false), m_switching(false), m_sim(true), m_signal(USUAL_SIGNAL), m_state(LTE_OFF),
-      m_left(0)
+    : behaviour_t(owner), m_on(false), m_switching(false), m_stuck(false), m_sim(true), m_signal(USUAL_SIGNAL),
+      m_state(LTE_OFF), m_left(0)
 {
     m_told = status();
 }
@@ -84,15 +84,22 @@ behaviour_t::answer_t modem_t::command(link_t* from, QString const& group, QVari
     QVariant const on = value.toMap().value("on");
     if (on.userType() != QMetaType::Bool)
         return UNREADABLE;
-    if (on.toBool() == m_on)
+    if (on.toBool() == m_on || m_stuck)
         receiver.report(from, group, status());
     else
         switchTo(on.toBool());
     return DONE;
 }
 
+QStringList modem_t::situations() const
+{
+    return {"lteModem", "lteSim", "lteSignal"};
+}
+
 behaviour_t::answer_t modem_t::situation(QString const& name, QVariant const& value)
 {
+    if (name == "lteModem")
+        return takeState(value.toString());
     bool isNumber = false;
     double const number = value.toDouble(&isNumber);
     if (name == "lteSim" && value.userType() == QMetaType::Bool)
@@ -116,8 +123,19 @@ void modem_t::enter(int state)
     m_state = state;
     m_left = LTE_STATES[state].duration;
     m_switching = m_switching && m_left > 0;
-    wantTicks(m_left > 0);
+    wantTicks(m_left > 0 && !m_stuck);
     tell();
+}
+
+behaviour_t::answer_t modem_t::takeState(QString const& state)
+{
+    if (state != "OFF" && state != "ON" && state != "PENDING")
+        return UNREADABLE;
+    m_on = state != "OFF";
+    m_stuck = state == "PENDING";
+    m_switching = m_stuck;
+    enter(m_stuck ? LTE_STARTING : m_on ? LTE_CONNECTED : LTE_OFF);
+    return DONE;
 }
 
 void modem_t::takeSim(bool present)
@@ -196,6 +214,11 @@ iridiumState_t const IRIDIUM_STATES[] = {
 
 iridium_t::iridium_t(receiver_t& owner) : behaviour_t(owner), m_provisioned(true), m_state(2), m_left(0)
 {
+}
+
+QStringList iridium_t::situations() const
+{
+    return {"iridiumProvisioned"};
 }
 
 behaviour_t::answer_t iridium_t::situation(QString const& name, QVariant const& value)

@@ -60,6 +60,11 @@ behaviour_t::answer_t navigation_t::command(link_t*, QString const& group, QVari
     return group == "reboot" ? reboot(value) : NOT_MINE;
 }
 
+QStringList navigation_t::situations() const
+{
+    return {"solutionReports", "headingReports", "solution", "failureCode"};
+}
+
 behaviour_t::answer_t navigation_t::situation(QString const& name, QVariant const& value)
 {
     if (name == "solutionReports")

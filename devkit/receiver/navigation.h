@@ -22,6 +22,7 @@ public:
 
     answer_t request(link_t* from, QString const& group) override;
     answer_t command(link_t* from, QString const& group, QVariant const& value) override;
+    QStringList situations() const override;
     answer_t situation(QString const& name, QVariant const& value) override;
     QVariant answer(QString const& name, qint64 at) override;
     void restarted() override;

@@ -48,10 +48,8 @@ void network_t::cut()
     for (link_t* link : receiver.links())
     {
         unsigned int const port = receiver.activePort(link);
-        if (port < FIRST_VIRTUAL_PORT || port >= NUM_PORTS)
-            continue;
-        m_cutLinks << link;
-        link->setCut(true);
+        if (port >= FIRST_VIRTUAL_PORT && port < NUM_PORTS)
+            m_cutLinks.cut(link);
     }
 }
 
@@ -59,12 +57,7 @@ void network_t::join()
 {
     m_joinAt = -1;
     wantTicks(false);
-    for (QPointer<link_t> const& link : m_cutLinks)
-    {
-        if (link)
-            link->setCut(false);
-    }
-    m_cutLinks.clear();
+    m_cutLinks.joinAll();
 }
 
 } // namespace melvox_receiver

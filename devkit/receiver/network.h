@@ -2,8 +2,7 @@
 #define MELVOX_RECEIVER_NETWORK_H
 
 #include "receiver/behaviour.h"
-
-#include <QPointer>
+#include "receiver/cutLinks.h"
 
 namespace melvox_receiver
 {
@@ -25,7 +24,7 @@ private:
     QVariant m_cable; //!< as it was
     qint64 m_cutAt;   //!< simulated time; negative: not at all
     qint64 m_joinAt;  //!< likewise
-    QList<QPointer<link_t>> m_cutLinks;
+    cutLinks_t m_cutLinks;
 };
 
 } // namespace melvox_receiver

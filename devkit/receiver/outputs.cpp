@@ -178,6 +178,11 @@ behaviour_t::answer_t outputs_t::turnOffAll(QVariant const& value)
     return DONE;
 }
 
+QStringList outputs_t::situations() const
+{
+    return {"outputs"};
+}
+
 behaviour_t::answer_t outputs_t::situation(QString const& name, QVariant const& value)
 {
     if (name != "outputs")

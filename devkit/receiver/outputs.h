@@ -24,6 +24,7 @@ public:
 
     answer_t request(link_t* from, QString const& group) override;
     answer_t command(link_t* from, QString const& group, QVariant const& value) override;
+    QStringList situations() const override;
     answer_t situation(QString const& name, QVariant const& value) override;
     void passed(link_t* link, message_t const& message) override;
     void portInput(unsigned int port, QByteArray const& bytes) override;

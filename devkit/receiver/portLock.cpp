@@ -3,7 +3,7 @@
 namespace melvox_receiver
 {
 
-portLock_t::portLock_t(receiver_t& owner) : behaviour_t(owner), m_holder(nullptr)
+portLock_t::portLock_t(receiver_t& owner) : behaviour_t(owner), m_holder(nullptr), m_refused(false)
 {
 }
 
@@ -16,12 +16,25 @@ behaviour_t::answer_t portLock_t::command(link_t* from, QString const& group, QV
     QString why;
     if (take(whole(0, 2), value, QVariant(), wanted, why) != TAKEN)
         return UNREADABLE;
-    if (!m_holder && wanted.toInt() != 0)
+    if (!m_holder && !m_refused && wanted.toInt() != 0)
         hold(from, wanted.toInt());
     else if (m_holder == from && wanted.toInt() == 0)
         hold(nullptr, 0);
     // Another display's lock is none to the one that asks.
     receiver.report(from, group, receiver.lockOf(from));
+    return DONE;
+}
+
+QStringList portLock_t::situations() const
+{
+    return {"lockRefused"};
+}
+
+behaviour_t::answer_t portLock_t::situation(QString const&, QVariant const& value)
+{
+    if (value.userType() != QMetaType::Bool)
+        return UNREADABLE;
+    m_refused = value.toBool();
     return DONE;
 }
 

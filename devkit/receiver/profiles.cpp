@@ -103,6 +103,11 @@ behaviour_t::answer_t profiles_t::command(link_t* from, QString const& group, QV
     return DONE;
 }
 
+QStringList profiles_t::situations() const
+{
+    return {"profileFolder"};
+}
+
 behaviour_t::answer_t profiles_t::situation(QString const& name, QVariant const& value)
 {
     if (name != "profileFolder")

@@ -20,6 +20,7 @@ public:
 
     answer_t request(link_t* from, QString const& group) override;
     answer_t command(link_t* from, QString const& group, QVariant const& value) override;
+    QStringList situations() const override;
     answer_t situation(QString const& name, QVariant const& value) override;
     void linkClosed(link_t* link) override;
     void lockChanged() override;

@@ -30,7 +30,8 @@ int findRecord(setting_t const& setting, QVariantList const& records, QVariant c
 } // namespace
 
 receiver_t::receiver_t(simClock_t* clock, QObject* parent)
-    : QObject(parent), m_clock(clock), m_settings(startSettings()), m_lockHolder(nullptr), m_lock(0), m_ignoredCount(0)
+    : QObject(parent), m_clock(clock), m_settings(startSettings()), m_lockHolder(nullptr), m_lock(0), m_ignoredCount(0),
+      m_powered(true)
 {
     connect(clock, &simClock_t::ticked, this, &receiver_t::advance);
     m_behaviours = makeBehaviours(*this);
@@ -145,7 +146,8 @@ void receiver_t::takeIn(unsigned int port, QByteArray const& bytes)
 
 void receiver_t::putOut(unsigned int port, QByteArray const& bytes)
 {
-    emit portOutput(port, bytes);
+    if (m_powered)
+        emit portOutput(port, bytes);
 }
 
 QVariant receiver_t::ask(QString const& name, qint64 at)
@@ -292,11 +294,24 @@ bool receiver_t::setSituation(QString const& name, QVariant const& value)
 {
     for (auto const& behaviour : m_behaviours)
     {
-        behaviour_t::answer_t const answer = behaviour->situation(name, value);
-        if (answer != behaviour_t::NOT_MINE)
-            return answer == behaviour_t::DONE;
+        if (behaviour->situations().contains(name))
+            return behaviour->situation(name, value) == behaviour_t::DONE;
     }
     return false;
+}
+
+QStringList receiver_t::situations() const
+{
+    QStringList names;
+    for (auto const& behaviour : m_behaviours)
+        names << behaviour->situations();
+    return names;
+}
+
+void receiver_t::startReports()
+{
+    for (char const* reports : {"solutionReports", "headingReports", "correctionReports", "outputs"})
+        setSituation(reports, true);
 }
 
 void receiver_t::tellChanged(QString const& group)
@@ -398,6 +413,11 @@ void receiver_t::restart()
 {
     for (auto const& behaviour : m_behaviours)
         behaviour->restarted();
+}
+
+void receiver_t::setPowered(bool powered)
+{
+    m_powered = powered;
 }
 
 } // namespace melvox_receiver

@@ -56,6 +56,11 @@ public:
     /** What goes on around the receiver and is no setting of it, such as satellites out of view: for scenarios and
      *  tests, by the names that behaviours document. False when none knows the name or the value makes no sense. */
     bool setSituation(QString const& name, QVariant const& value);
+    QStringList situations() const; //!< all names
+
+    /** From now on it tells by itself, as a receiver does that is switched on: solution, heading, correction satellites,
+     *  and what it puts out. */
+    void startReports();
 
     /** How many messages made no sense. */
     int ignoredCount() const;
@@ -77,6 +82,7 @@ public:
 
     void report(QString const& group, QVariant const& value);             //!< to all displays
     void report(link_t* to, QString const& group, QVariant const& value); //!< to one
+    void reportSetting(link_t* to, setting_t const& setting); //!< as it stands, all records of a keyed group
     void event(QString const& group, QVariant const& value = QVariant());
     void event(link_t* to, QString const& group, QVariant const& value = QVariant());
     void wantTicks(behaviour_t* who, bool wanted);
@@ -91,6 +97,9 @@ public:
 
     /** All behaviours start anew, as after a loss of power. */
     void restart();
+
+    /** Without power nothing is put out. */
+    void setPowered(bool powered);
 
 signals:
     /** A message that made no sense: why, and the message as text, cut to a length that one can read. */
@@ -112,7 +121,6 @@ private:
     void takeCommand(link_t* from, message_t const& message);
     outcome_t takeSetting(setting_t const& setting, QVariant const& value, QVariant& taken, bool& changed,
                           QString& why);
-    void reportSetting(link_t* to, setting_t const& setting);
     void tellChanged(QString const& group);
     void ignore(QString const& why, message_t const& message);
     void closed(link_t* end);
@@ -124,6 +132,7 @@ private:
     link_t* m_lockHolder;
     int m_lock;
     int m_ignoredCount;
+    bool m_powered;
     QSet<behaviour_t*> m_ticking;
     std::vector<std::unique_ptr<behaviour_t>> m_behaviours;
 };

@@ -21,6 +21,8 @@ public:
             messages << message;
     }
 
+    void setCut(bool cut) override { cuts << cut; }
+
     void request(QString const& group) { emit received({melvox_link::message_t::REQUEST, group}); }
     void command(QString const& group, QVariant const& value = QVariant())
     {
@@ -54,6 +56,7 @@ public:
     }
 
     QList<melvox_link::message_t> messages;
+    QList<bool> cuts; //!< what became of the way to this end
     bool open = true;
 };
 

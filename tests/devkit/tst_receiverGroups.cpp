@@ -1,3 +1,4 @@
+#include "link/groups.h"
 #include "receiver/receiver.h"
 #include "receiverEnd.h"
 
@@ -136,6 +137,7 @@ class tst_receiverGroups : public melvox_test::test_t
     Q_OBJECT
 
 private slots:
+    void theListOfNamesIsThatOfTheTable();
     void documentsItsGroups();
     void answersEachRequest_data();
     void answersEachRequest();
@@ -246,6 +248,18 @@ void tst_receiverGroups::countsACommandWithoutSense()
     QCOMPARE(receiver.ignoredCount(), int(senseless.size()));
     QVERIFY(display.texts().isEmpty());
     QCOMPARE(receiver.settings(), before);
+}
+
+void tst_receiverGroups::theListOfNamesIsThatOfTheTable()
+{
+    QStringList documented;
+    for (group_t const& group : documentedGroups())
+        documented << group.name;
+    // What only comes in an answer has no line of its own.
+    for (QString const& answered : QStringList{"antennaListReset", "antennaName", "outputsCleared", "firmwareVersion",
+                                               "profilesCleared", "profile"})
+        documented << answered;
+    QCOMPARE(melvox_link::groupNames(), documented);
 }
 
 void tst_receiverGroups::refusesCommandsOfGroupsThatAreOnlyRequested_data()

@@ -2,6 +2,7 @@
 #include "link/tcpLink.h"
 #include "linkListener.h"
 
+#include "support/folder.h"
 #include "support/test.h"
 
 #include <QProcess>
@@ -85,6 +86,9 @@ private slots:
     void saysInOneSentenceWhatIsWrong_data();
     void saysInOneSentenceWhatIsWrong();
     void refusesAPortInUse();
+    void playsAScenarioAtItsSpeed();
+    void spoilsTheLinkOfEachDisplay();
+    void saysWhatOfAScenarioIsTheDisplays();
     void listsItsOptions();
     void tellsItsVersion();
 };
@@ -271,6 +275,9 @@ void tst_receiverProgram::saysInOneSentenceWhatIsWrong_data()
     QTest::newRow("unknown option") << QStringList{"--bluetooth"} << 2 << "bluetooth";
     QTest::newRow("no option but a word") << QStringList{"5000"} << 2 << "\"5000\"";
     QTest::newRow("no port") << QStringList{"--tcp"} << 2 << "--tcp";
+    QTest::newRow("no scenario") << QStringList{"--pty", "--scenario", "rain"} << 2
+                                 << "The scenarios are: almanac-switch, ";
+    QTest::newRow("no speed") << QStringList{"--pty", "--speed", "fast"} << 2 << "\"fast\"";
     QTest::newRow("no number") << QStringList{"--tcp", "five"} << 1 << "\"five\"";
     QTest::newRow("too great a number") << QStringList{"--tcp", "65536"} << 1 << "\"65536\"";
     QTest::newRow("no address") << QStringList{"--tcp", "somewhere:5000"} << 1 << "\"somewhere:5000\"";
@@ -306,13 +313,55 @@ void tst_receiverProgram::refusesAPortInUse()
     QVERIFY2(text.contains(port) && text.contains("choose another one"), qPrintable(text));
 }
 
+void tst_receiverProgram::playsAScenarioAtItsSpeed()
+{
+    melvox_test::folder_t const folder;
+    QString const file = folder.write("late.json", "{\"title\": \"Late\", \"shows\": \"A step after a minute.\", "
+                                                   "\"steps\": [{\"at\": 60, \"settings\": {\"elevationMask\": 20}}]}");
+    program_t program({"--tcp", "0", "--scenario", file, "--speed", "100"});
+    tcpLink_t link("127.0.0.1", quint16(program.tcpPort()));
+    linkListener_t listener(link);
+    link.start();
+    QVERIFY(waitFor([&]() { return link.isOpen(); }));
+    // At the usual speed it would not come in time.
+    QVERIFY(waitFor(
+        [&]()
+        {
+            link.send({message_t::REQUEST, "elevationMask"});
+            return listener.texts.contains("report elevationMask 20");
+        },
+        30000));
+}
+
+void tst_receiverProgram::spoilsTheLinkOfEachDisplay()
+{
+    program_t program({"--tcp", "0", "--scenario", "silent-group"});
+    tcpLink_t link("127.0.0.1", quint16(program.tcpPort()));
+    linkListener_t listener(link);
+    link.start();
+    QVERIFY(waitFor([&]() { return link.isOpen(); }));
+    link.send({message_t::REQUEST, "ppsConfig"});
+    link.send({message_t::REQUEST, "pdopLimit"});
+    QVERIFY(waitFor([&]() { return !listener.texts.isEmpty(); }));
+    QCOMPARE(listener.texts, QStringList("report pdopLimit 25"));
+}
+
+void tst_receiverProgram::saysWhatOfAScenarioIsTheDisplays()
+{
+    program_t program({"--tcp", "0", "--scenario", "drive-pulled-out"});
+    // The first line is about the scenario.
+    QCOMPARE(int(program.places(2).size()), 1);
+    QVERIFY2(program.output.startsWith("playing drive-pulled-out without what is the display's: drives\n"),
+             program.output.constData());
+}
+
 void tst_receiverProgram::listsItsOptions()
 {
     program_t program({"--help"});
     QVERIFY(program.finishes());
     QCOMPARE(program.exitCode(), 0);
     QString const text = QString::fromUtf8(program.process.readAllStandardOutput());
-    for (char const* option : {"--tcp", "--pty", "--serial", "--quiet", "--help", "--version"})
+    for (char const* option : {"--tcp", "--pty", "--serial", "--scenario", "--speed", "--quiet", "--help", "--version"})
         QVERIFY2(text.contains(option), option);
 }
 
