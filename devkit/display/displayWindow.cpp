@@ -2,6 +2,7 @@
 
 #include "display/linkMonitor.h"
 #include "display/monitorModel.h"
+#include "display/receiverPanel.h"
 #include "display/screen.h"
 #include "display/statusStrip.h"
 #include "display/uiSettings.h"
@@ -17,26 +18,63 @@ namespace
 {
 
 int const MONITOR_ROWS = 5000;
-int const MONITOR_WIDTH = 640;
+int const SIDE_WIDTH = 640;
 QSize const SMALLEST_SCREEN(640, 400);
 
 } // namespace
 
 displayWindow_t::displayWindow_t(pageRegistry_t const& pages, unit_t* unit, uiSettings_t* settings,
-                                 QSize const& screenSize)
-    : m_pages(pages), m_unit(unit), m_settings(settings), m_screen(new screen_t(pages, unit->device(), settings, this)),
-      m_model(new monitorModel_t(MONITOR_ROWS, this)), m_monitor(new linkMonitor_t(m_model, this)), m_beside(false)
+                                 QSize const& screenSize, simulation_t* simulation)
+    : m_pages(pages), m_unit(unit), m_settings(settings), m_screen(nullptr),
+      m_model(new monitorModel_t(MONITOR_ROWS, this)), m_monitor(new linkMonitor_t(m_model, this)),
+      m_panel(simulation ? new receiverPanel_t(simulation, this) : nullptr), m_side(nullptr), m_beside(false)
 {
     setWindowTitle(tr("Melvox Display"));
     setMinimumSize(SMALLEST_SCREEN);
     m_monitor->hide();
+    if (m_panel)
+        m_panel->hide();
+    createScreen();
     connect(m_unit->tap(), &melvox_link::linkTap_t::passed, m_model, &monitorModel_t::add);
     connect(m_unit, &unit_t::linkStateChanged, this, &displayWindow_t::showLink);
-    connect(m_screen->strip(), &statusStrip_t::monitorToggled, this, &displayWindow_t::toggleMonitor);
-    QShortcut* shortcut = new QShortcut(QKeySequence(Qt::Key_F12), this);
-    connect(shortcut, &QShortcut::activated, this, &displayWindow_t::toggleMonitor);
+    connect(m_unit, &unit_t::deviceAboutToGo, this, &displayWindow_t::dropScreen);
+    connect(m_unit, &unit_t::deviceReplaced, this, &displayWindow_t::renewScreen);
+    addShortcut(Qt::Key_F11, &displayWindow_t::togglePanel);
+    addShortcut(Qt::Key_F12, &displayWindow_t::toggleMonitor);
     resize(screenSize);
+}
+
+void displayWindow_t::addShortcut(Qt::Key key, void (displayWindow_t::*act)())
+{
+    QShortcut* shortcut = new QShortcut(QKeySequence(key), this);
+    connect(shortcut, &QShortcut::activated, this, act);
+}
+
+void displayWindow_t::createScreen()
+{
+    m_screen = new screen_t(m_pages, m_unit->device(), m_settings, this);
+    m_screen->strip()->setPanelOffered(m_panel != nullptr);
+    connect(m_screen->strip(), &statusStrip_t::monitorToggled, this, &displayWindow_t::toggleMonitor);
+    connect(m_screen->strip(), &statusStrip_t::panelToggled, this, &displayWindow_t::togglePanel);
     showLink();
+}
+
+/** The pages stand on the proxy. */
+void displayWindow_t::dropScreen()
+{
+    m_lastPage = m_screen->currentPage();
+    delete m_screen;
+    m_screen = nullptr;
+}
+
+void displayWindow_t::renewScreen()
+{
+    createScreen();
+    m_screen->strip()->setMonitorShown(isMonitorShown());
+    m_screen->strip()->setPanelShown(isPanelShown());
+    m_screen->show();
+    place();
+    showFirstPage(m_lastPage);
 }
 
 displayWindow_t::~displayWindow_t()
@@ -65,38 +103,59 @@ bool displayWindow_t::fitsBeside() const
     return !m_screen->isNarrow() && !(windowState() & (Qt::WindowMaximized | Qt::WindowFullScreen));
 }
 
-void displayWindow_t::toggleMonitor()
+bool displayWindow_t::isPanelShown() const
 {
-    bool const shown = !isMonitorShown();
-    int const change = shown && fitsBeside() ? MONITOR_WIDTH : !shown && m_beside ? -MONITOR_WIDTH : 0;
-    m_beside = shown && fitsBeside();
-    m_monitor->setVisible(shown);
-    m_screen->strip()->setMonitorShown(shown);
-    QSize const target(width() + change, height());
-    setMinimumWidth(SMALLEST_SCREEN.width() + (m_beside ? MONITOR_WIDTH : 0));
-    if (change != 0 && !(windowState() & (Qt::WindowMaximized | Qt::WindowFullScreen)))
-        resize(target);
-    placeMonitor();
+    return m_panel && !m_panel->isHidden();
 }
 
-void displayWindow_t::placeMonitor()
+void displayWindow_t::toggleMonitor()
+{
+    showSide(isMonitorShown() ? nullptr : m_monitor);
+}
+
+void displayWindow_t::togglePanel()
+{
+    showSide(isPanelShown() ? nullptr : m_panel);
+}
+
+void displayWindow_t::showSide(QWidget* side)
+{
+    bool const wasBeside = m_beside;
+    m_side = side;
+    m_beside = side && fitsBeside();
+    int const change = (int(m_beside) - int(wasBeside)) * SIDE_WIDTH;
+    m_monitor->setVisible(side == m_monitor);
+    if (m_panel)
+        m_panel->setVisible(side == m_panel);
+    m_screen->strip()->setMonitorShown(isMonitorShown());
+    m_screen->strip()->setPanelShown(isPanelShown());
+    QSize const target(width() + change, height());
+    setMinimumWidth(SMALLEST_SCREEN.width() + (m_beside ? SIDE_WIDTH : 0));
+    if (change != 0 && !(windowState() & (Qt::WindowMaximized | Qt::WindowFullScreen)))
+        resize(target);
+    place();
+}
+
+void displayWindow_t::place()
 {
     QSize const whole = size();
-    int const beside = m_beside ? MONITOR_WIDTH : 0;
+    int const beside = m_beside ? SIDE_WIDTH : 0;
     m_screen->setGeometry(0, 0, whole.width() - beside, whole.height());
+    if (!m_side)
+        return;
     // Lying over the screen it leaves the strip free: there is the button that takes it away again.
     int const strip = m_screen->strip()->height();
     if (m_beside)
-        m_monitor->setGeometry(whole.width() - beside, 0, beside, whole.height());
+        m_side->setGeometry(whole.width() - beside, 0, beside, whole.height());
     else
-        m_monitor->setGeometry(0, 0, whole.width(), whole.height() - strip);
-    m_monitor->raise();
+        m_side->setGeometry(0, 0, whole.width(), whole.height() - strip);
+    m_side->raise();
 }
 
 void displayWindow_t::resizeEvent(QResizeEvent* event)
 {
     QWidget::resizeEvent(event);
-    placeMonitor();
+    place();
 }
 
 void displayWindow_t::showLink()

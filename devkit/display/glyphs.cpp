@@ -56,6 +56,12 @@ QPainterPath outlineOf(glyph_t glyph)
         line({{4, 8}, {19, 8}, {15.5, 4.5}});
         line({{20, 16}, {5, 16}, {8.5, 19.5}});
         break;
+    case glyph_t::PANEL:
+        line({{4, 7}, {20, 7}});
+        line({{4, 17}, {20, 17}});
+        path.addEllipse(QPointF(9, 7), 2.5, 2.5);
+        path.addEllipse(QPointF(15, 17), 2.5, 2.5);
+        break;
     }
     return path;
 }

@@ -15,7 +15,8 @@ enum class glyph_t
     BACKSPACE,
     SHIFT,
     SHIFT_LOCK,
-    MONITOR
+    MONITOR,
+    PANEL
 };
 
 /** Drawn, not taken from a font: which fonts a unit has is not known. */

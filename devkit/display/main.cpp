@@ -1,20 +1,18 @@
-#include "brel_common_qt/kitUsb.h"
-#include "brel_common_qt/usbDriveManager.h"
 #include "display/displayStyle.h"
 #include "display/displayWindow.h"
+#include "display/driveRack.h"
 #include "display/options.h"
 #include "display/pageRegistry.h"
 #include "display/recording.h"
 #include "display/replay.h"
+#include "display/simulation.h"
 #include "display/tour.h"
 #include "display/uiSettings.h"
 #include "display/unit.h"
-#include "receiver/receiver.h"
 
 #include <QApplication>
 
 #include <cstdio>
-#include <memory>
 
 namespace
 {
@@ -65,27 +63,25 @@ void tellHowItWent(replay_t const& replay)
 int run(options_t const& options, recording_t& recording, replay_t& replay)
 {
     // Before any page, and pictures of the drives' dialogs need drives, or the lack of them.
-    std::unique_ptr<melvox_kit::mountTable_t> mounts;
-    std::unique_ptr<brel_common_qt::usbDriveManager_t> drives;
+    driveRack_t drives(options.usbDir);
     if (options.realDrives)
-        mounts.reset(melvox_kit::createSystemMounts());
-    if (mounts)
-        melvox_kit::setUsbMounts(mounts.get());
-    else
-        melvox_kit::setUsbRoot(options.usbDir);
-    if (options.realDrives || !options.usbDir.isEmpty() || !options.tourDir.isEmpty() || options.hasDrives)
-        drives = std::make_unique<brel_common_qt::usbDriveManager_t>();
+        drives.openReal();
+    else if (!options.tourDir.isEmpty() || options.hasDrives)
+        drives.open();
     unit_t unit(options.connection);
-    if (!options.profileFolder.isEmpty() && !unit.receiver()->setSituation("profileFolder", options.profileFolder))
+    if (!options.profileFolder.isEmpty() && !unit.keepProfiles(options.profileFolder))
         return refuse(QCoreApplication::translate("options",
                                                   "--profiles takes a folder that this program may make, read "
                                                   "and write, not \"%1\".")
                           .arg(options.profileFolder));
+    simulation_t simulation(unit, drives, options.speed);
+    if (options.scenario)
+        simulation.start(*options.scenario);
     uiSettings_t settings(options.settingsFile);
     settings.applyPreferences(options);
     if (!options.recordFile.isEmpty())
         recording.begin(options, unit, settings);
-    displayWindow_t window(allPages(), &unit, &settings, options.size);
+    displayWindow_t window(allPages(), &unit, &settings, options.size, &simulation);
     if (unit.replay())
     {
         replay.play(window, unit);

@@ -17,10 +17,33 @@ QString valueText(melvox_link::message_t const& message)
     return melvox_link::toText(message).mid(message.group.size()).trimmed();
 }
 
+QString timeText(qint64 time)
+{
+    return QDateTime::fromMSecsSinceEpoch(time).toString("hh:mm:ss.zzz");
+}
+
+QString directionText(bool fromDisplay)
+{
+    return fromDisplay ? monitorModel_t::tr("to receiver") : monitorModel_t::tr("to display");
+}
+
 } // namespace
 
+QString ageText(qint64 milliseconds)
+{
+    // A clock that is set back must not make what has come lie in the future.
+    qint64 const age = qMax<qint64>(0, milliseconds);
+    qint64 const seconds = age / 1000;
+    if (seconds < 60)
+        return monitorModel_t::tr("%1 s").arg(double(age / 100) / 10.0, 0, 'f', 1);
+    if (seconds < 3600)
+        return monitorModel_t::tr("%1 min %2 s").arg(seconds / 60).arg(seconds % 60, 2, 10, QChar('0'));
+    return monitorModel_t::tr("%1 h %2 min").arg(seconds / 3600).arg(seconds / 60 % 60, 2, 10, QChar('0'));
+}
+
 monitorModel_t::monitorModel_t(int maximumRows, QObject* parent)
-    : QAbstractTableModel(parent), m_maximum(qMax(1, maximumRows)), m_arrived(0), m_paused(false), m_timer(this)
+    : QAbstractTableModel(parent), m_maximum(qMax(1, maximumRows)), m_arrived(0), m_paused(false), m_pausedAt(0),
+      m_timer(this)
 {
     m_timer.setSingleShot(true);
     m_timer.setInterval(BATCH_MS);
@@ -70,6 +93,7 @@ void monitorModel_t::setPaused(bool paused)
     if (paused)
         flush();
     m_paused = paused;
+    m_pausedAt = QDateTime::currentMSecsSinceEpoch();
     m_timer.stop();
     flush();
 }
@@ -103,9 +127,11 @@ QVariant monitorModel_t::data(QModelIndex const& index, int role) const
     switch (index.column())
     {
     case COLUMN_TIME:
-        return QDateTime::fromMSecsSinceEpoch(row.time).toString("hh:mm:ss.zzz");
+        return timeText(row.time);
+    case COLUMN_AGE:
+        return ageText(now() - row.time);
     case COLUMN_DIRECTION:
-        return row.fromDisplay ? tr("to receiver") : tr("to display");
+        return directionText(row.fromDisplay);
     case COLUMN_KIND:
         return melvox_link::kindName(row.message.kind);
     case COLUMN_GROUP:
@@ -121,8 +147,21 @@ QVariant monitorModel_t::headerData(int section, Qt::Orientation orientation, in
 {
     if (orientation != Qt::Horizontal || role != Qt::DisplayRole)
         return QVariant();
-    QStringList const titles = {tr("Time"), tr("Direction"), tr("Kind"), tr("Group"), tr("Value")};
+    QStringList const titles = {tr("Time"), tr("Age"), tr("Direction"), tr("Kind"), tr("Group"), tr("Value")};
     return titles.value(section);
+}
+
+qint64 monitorModel_t::now() const
+{
+    return m_paused ? m_pausedAt : QDateTime::currentMSecsSinceEpoch();
+}
+
+QString monitorModel_t::lineOf(QModelIndex const& index) const
+{
+    if (!index.isValid() || index.row() >= int(m_rows.size()))
+        return QString();
+    row_t const& row = m_rows[size_t(index.row())];
+    return timeText(row.time) + " " + directionText(row.fromDisplay) + " " + textOf(index);
 }
 
 QString monitorModel_t::textOf(QModelIndex const& index) const

@@ -22,6 +22,7 @@ public:
     enum column_t
     {
         COLUMN_TIME,
+        COLUMN_AGE, //!< as it is when it is asked for; nobody is told that it goes on
         COLUMN_DIRECTION,
         COLUMN_KIND,
         COLUMN_GROUP,
@@ -40,6 +41,8 @@ public:
 
     /** The whole message. */
     QString textOf(QModelIndex const& index) const;
+    /** The same with time and direction, for whoever wants to take it elsewhere. */
+    QString lineOf(QModelIndex const& index) const;
 
     int rowCount(QModelIndex const& parent = QModelIndex()) const override;
     int columnCount(QModelIndex const& parent = QModelIndex()) const override;
@@ -67,14 +70,19 @@ private:
     };
 
     void dropOldest(int count);
+    qint64 now() const;
 
     int m_maximum;
     std::deque<row_t> m_rows;
     std::deque<row_t> m_pending;
     int m_arrived;
     bool m_paused;
+    qint64 m_pausedAt; //!< ages stand still from then on
     QTimer m_timer;
 };
+
+/** "3.2 s", "4 min 05 s", "2 h 07 min". */
+QString ageText(qint64 milliseconds);
 
 } // namespace melvox_display
 

@@ -1,5 +1,7 @@
 #include "display/options.h"
 
+#include "scenarios/scenarioReader.h"
+
 #include <QCommandLineParser>
 #include <QCoreApplication>
 #include <QFileInfo>
@@ -33,6 +35,9 @@ QList<QCommandLineOption> knownOptions()
          tr("Each folder in this one is a USB drive; real: the removable drives of this machine are. Without it, files "
             "are chosen in a file dialog."),
          "DIR|real"},
+        {"scenario", tr("Starts the simulated receiver in this situation, one of the kit's or one from a file."),
+         tr("NAME|FILE")},
+        {"speed", tr("Lets the simulated receiver's time run so many times as fast."), tr("N")},
         {"tour", tr("Walks all pages and dialogs, writes pictures of them to this folder and ends."), tr("DIR")},
         {"units", tr("Heights and distances in m or ft, for this run."), "m|ft"},
         {"format", tr("Positions in deg, dm or dms, for this run."), "deg|dm|dms"},
@@ -161,6 +166,36 @@ QString readUsb(QString const& text, options_t& options)
         .arg(text);
 }
 
+QString readScenario(QString const& text, options_t& options)
+{
+    QString error;
+    melvox_scenarios::scenario_t scenario;
+    if (melvox_scenarios::loadScenario(text, scenario, error))
+        options.scenario = scenario;
+    return error;
+}
+
+QString readClockSpeed(QString const& text, options_t& options)
+{
+    bool isNumber = false;
+    options.speed = text.toDouble(&isNumber);
+    if (isNumber && *options.speed > 0.0 && *options.speed <= melvox_scenarios::FASTEST_SPEED)
+        return QString();
+    return tr("--speed takes a number above 0, at most %1, not \"%2\".").arg(melvox_scenarios::FASTEST_SPEED).arg(text);
+}
+
+/** What needs the receiver in this very program. */
+QString checkReceiver(QCommandLineParser const& parser)
+{
+    for (char const* option : {"scenario", "speed"})
+    {
+        if (parser.isSet("connect") && parser.isSet(option))
+            return tr("--%1 is for the receiver in this program; with --connect, give it to melvox_receiver.")
+                .arg(option);
+    }
+    return QString();
+}
+
 QString readFileName(QString const& option, QString const& text, QString& name)
 {
     name = text;
@@ -188,7 +223,7 @@ QString readReplay(QCommandLineParser const& parser, options_t& options)
                                                                           "--replay FILE.")
                                                                      : QString();
     faults << readFileName("--replay", parser.value("replay"), options.replayFile);
-    for (char const* name : {"connect", "page", "size", "units", "format", "settings", "tour"})
+    for (char const* name : {"connect", "page", "size", "scenario", "speed", "units", "format", "settings", "tour"})
     {
         if (parser.isSet(name))
             faults << tr("A journal brings what --%1 says of its own: leave it out with --replay.").arg(name);
@@ -218,6 +253,11 @@ QString readValues(QCommandLineParser const& parser, QStringList const& pages, o
         faults << readSize(parser.value("size"), options);
     if (parser.isSet("usb"))
         faults << readUsb(parser.value("usb"), options);
+    faults << checkReceiver(parser);
+    if (parser.isSet("scenario"))
+        faults << readScenario(parser.value("scenario"), options);
+    if (parser.isSet("speed"))
+        faults << readClockSpeed(parser.value("speed"), options);
     if (parser.isSet("tour"))
         faults << readFileName("--tour", parser.value("tour"), options.tourDir);
     if (parser.isSet("units"))

@@ -2,6 +2,7 @@
 #define MELVOX_DISPLAY_OPTIONS_H
 
 #include "brel_common_qt/units.h"
+#include "scenarios/scenario.h"
 
 #include <QSize>
 #include <QString>
@@ -49,10 +50,12 @@ struct options_t
     QString tourDir;                                     //!< empty: no tour
     std::optional<brel_common_qt::distanceUnit_t> units; //!< not given: as stored
     std::optional<brel_common_qt::latLonFormat_t> format;
-    QString settingsFile;  //!< empty: the user's own
-    QString profileFolder; //!< where the simulated receiver keeps its profiles; empty: nowhere
-    QString recordFile;    //!< empty: no journal is written
-    QString replayFile;    //!< empty: none is played
+    std::optional<melvox_scenarios::scenario_t> scenario;
+    std::optional<double> speed; //!< of the simulated receiver's clock
+    QString settingsFile;        //!< empty: the user's own
+    QString profileFolder;       //!< where the simulated receiver keeps its profiles; empty: nowhere
+    QString recordFile;          //!< empty: no journal is written
+    QString replayFile;          //!< empty: none is played
     bool replayActions = false;
     bool hasDrives = false; //!< USB drives even without a folder for them
 };

@@ -30,6 +30,20 @@ QString textOf(linkState_t state)
     return QString();
 }
 
+QToolButton* createTool(QString const& name, QString const& text, QString const& tip, glyph_t glyph, QWidget* parent)
+{
+    QToolButton* button = new QToolButton(parent);
+    button->setObjectName(name);
+    button->setText(text);
+    button->setIcon(glyphIcon(glyph));
+    button->setIconSize(QSize(24, 24));
+    button->setToolButtonStyle(Qt::ToolButtonTextBesideIcon);
+    button->setToolTip(tip);
+    button->setCheckable(true);
+    button->setFocusPolicy(Qt::NoFocus);
+    return button;
+}
+
 bool isBad(linkState_t state)
 {
     return state == linkState_t::INTERRUPTED || state == linkState_t::RECONNECTING;
@@ -39,7 +53,9 @@ bool isBad(linkState_t state)
 
 statusStrip_t::statusStrip_t(QWidget* parent)
     : QFrame(parent), m_simulated(new QLabel(tr("SIMULATED RECEIVER"), this)), m_state(new QLabel(this)),
-      m_description(new QLabel(this)), m_monitor(new QToolButton(this))
+      m_description(new QLabel(this)),
+      m_panel(createTool("panelButton", tr("Receiver"), tr("Receiver panel (F11)"), glyph_t::PANEL, this)),
+      m_monitor(createTool("monitorButton", tr("Monitor"), tr("Link monitor (F12)"), glyph_t::MONITOR, this))
 {
     setObjectName("statusStrip");
     m_simulated->setObjectName("simulatedLabel");
@@ -47,15 +63,10 @@ statusStrip_t::statusStrip_t(QWidget* parent)
     m_description->setObjectName("linkDescriptionLabel");
     m_description->setTextFormat(Qt::PlainText);
     m_description->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
-    m_monitor->setObjectName("monitorButton");
-    m_monitor->setText(tr("Monitor"));
-    m_monitor->setIcon(glyphIcon(glyph_t::MONITOR));
-    m_monitor->setIconSize(QSize(24, 24));
-    m_monitor->setToolButtonStyle(Qt::ToolButtonTextBesideIcon);
-    m_monitor->setToolTip(tr("Link monitor (F12)"));
     m_monitor->setAccessibleName(tr("Link monitor"));
-    m_monitor->setCheckable(true);
-    m_monitor->setFocusPolicy(Qt::NoFocus);
+    m_panel->setAccessibleName(tr("Receiver panel"));
+    m_panel->hide();
+    connect(m_panel, &QToolButton::clicked, this, &statusStrip_t::panelToggled);
     connect(m_monitor, &QToolButton::clicked, this, &statusStrip_t::monitorToggled);
 
     QHBoxLayout* layout = new QHBoxLayout(this);
@@ -64,7 +75,11 @@ statusStrip_t::statusStrip_t(QWidget* parent)
     layout->addWidget(m_simulated, 0, Qt::AlignVCenter);
     layout->addWidget(m_state);
     layout->addWidget(m_description, 1);
-    layout->addWidget(m_monitor);
+    QHBoxLayout* tools = new QHBoxLayout;
+    tools->setSpacing(0);
+    tools->addWidget(m_panel);
+    tools->addWidget(m_monitor);
+    layout->addLayout(tools);
     setSimulated(false);
     setLink(QString(), linkState_t::CONNECTING);
 }
@@ -79,8 +94,9 @@ void statusStrip_t::setLink(QString const& description, linkState_t state)
     m_state->setText(textOf(state));
     m_description->setText(description);
     setProperty("interrupted", isBad(state));
-    for (QWidget* widget : {static_cast<QWidget*>(this), static_cast<QWidget*>(m_state),
-                            static_cast<QWidget*>(m_description), static_cast<QWidget*>(m_monitor)})
+    for (QWidget* widget :
+         {static_cast<QWidget*>(this), static_cast<QWidget*>(m_state), static_cast<QWidget*>(m_description),
+          static_cast<QWidget*>(m_panel), static_cast<QWidget*>(m_monitor)})
     {
         style()->unpolish(widget);
         style()->polish(widget);
@@ -90,6 +106,16 @@ void statusStrip_t::setLink(QString const& description, linkState_t state)
 void statusStrip_t::setMonitorShown(bool shown)
 {
     m_monitor->setChecked(shown);
+}
+
+void statusStrip_t::setPanelShown(bool shown)
+{
+    m_panel->setChecked(shown);
+}
+
+void statusStrip_t::setPanelOffered(bool offered)
+{
+    m_panel->setVisible(offered);
 }
 
 } // namespace melvox_display

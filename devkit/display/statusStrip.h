@@ -30,15 +30,21 @@ public:
     /** `description`: what a person would call the other side. */
     void setLink(QString const& description, melvox_display::linkState_t state);
     void setMonitorShown(bool shown);
+    void setPanelShown(bool shown);
+    /** Whether there is a receiver panel at all; at first there is none. */
+    void setPanelOffered(bool offered);
 
 signals:
     /** The operator wants the link monitor shown or hidden. */
     void monitorToggled();
+    /** Likewise the receiver panel. */
+    void panelToggled();
 
 private:
     QLabel* m_simulated;
     QLabel* m_state;
     QLabel* m_description;
+    QToolButton* m_panel;
     QToolButton* m_monitor;
 };
 

@@ -135,6 +135,7 @@ private:
     void visitErrorBox(QLineEdit* edit, QWidget* page);
     void visitMenu();
     void visitMonitor();
+    void visitPanel();
     void visitInterruption();
 
     QScrollArea* view() const;
@@ -393,6 +394,15 @@ void tour_t::visitMonitor()
     m_window.toggleMonitor();
 }
 
+void tour_t::visitPanel()
+{
+    if (!m_window.panel())
+        return;
+    m_window.togglePanel();
+    shoot("receiver-panel");
+    m_window.togglePanel();
+}
+
 void tour_t::visitInterruption()
 {
     if (!m_unit.localLink())
@@ -418,6 +428,7 @@ int tour_t::walk()
         m_screen.showPage(m_window.pages().front().name);
     visitMenu();
     visitMonitor();
+    visitPanel();
     visitInterruption();
     playLastScenes();
     std::printf("%d pictures, %d faults\n", m_count, m_faults);

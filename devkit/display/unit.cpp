@@ -1,24 +1,19 @@
 #include "display/unit.h"
 
-#include "brel_common_qt/kitPort.h"
 #include "brel_common_qt/remoteMelvoxDevice.h"
+#include "link/faultFilter.h"
 #include "link/linkTap.h"
 #include "link/localLink.h"
 #include "link/replayLink.h"
 #include "link/serialLink.h"
 #include "link/tcpLink.h"
 #include "receiver/receiver.h"
-#include "receiver/simClock.h"
 
 namespace melvox_display
 {
 
 namespace
 {
-
-/** As a serial line at a usual rate feels. */
-int const LATENCY_MS = 30;
-melvox_link::line_t const SIMULATED_LINE = {115200, 8, 'N', 1};
 
 melvox_kit::linkKind_t kindOf(connection_t const& connection)
 {
@@ -37,13 +32,14 @@ melvox_kit::linkKind_t kindOf(connection_t const& connection)
 
 } // namespace
 
-unit_t::unit_t(connection_t const& connection, QObject* parent)
-    : QObject(parent), m_replay(nullptr), m_started(false), m_wasOpen(false)
+unit_t::unit_t(connection_t const& connection, melvox_receiver::simClock_t::mode_t clock)
+    : m_kind(kindOf(connection)), m_baud(USUAL_BAUD), m_clock(std::make_unique<melvox_receiver::simClock_t>(clock)),
+      m_replay(nullptr), m_started(false), m_wasOpen(false)
 {
     melvox_link::link_t* link = createLink(connection);
-    m_tap = std::make_unique<melvox_link::linkTap_t>(link);
-    brel_common_qt::remotePort_t* port = melvox_kit::createPort(m_tap.get(), kindOf(connection));
-    m_device = std::make_unique<brel_common_qt::remoteMelvoxDevice_t>(port);
+    m_filter = std::make_unique<melvox_link::faultFilter_t>(link);
+    m_tap = std::make_unique<melvox_link::linkTap_t>(m_filter.get());
+    createDevice();
     connect(m_tap.get(), &melvox_link::link_t::openChanged, this, &unit_t::takeOpen);
 }
 
@@ -52,21 +48,67 @@ unit_t::~unit_t()
     // The proxy first: it stands on the link.
     m_device.reset();
     m_tap.reset();
+    m_filter.reset();
+}
+
+void unit_t::createDevice()
+{
+    brel_common_qt::remotePort_t* port = melvox_kit::createPort(m_tap.get(), m_kind);
+    m_device = std::make_unique<brel_common_qt::remoteMelvoxDevice_t>(port);
 }
 
 melvox_link::link_t* unit_t::createSimulated()
 {
-    m_clock = std::make_unique<melvox_receiver::simClock_t>();
     m_pair = std::make_unique<melvox_link::localLinkPair_t>();
-    m_pair->setLatency(LATENCY_MS);
-    m_pair->displayEnd()->makeSerial(SIMULATED_LINE);
-    m_pair->receiverEnd()->makeSerial(SIMULATED_LINE);
-    m_receiver = std::make_unique<melvox_receiver::receiver_t>(m_pair->receiverEnd(), m_clock.get());
-    m_receiver->setSituation("solutionReports", true);
-    m_receiver->setSituation("headingReports", true);
-    m_receiver->setSituation("correctionReports", true);
-    m_receiver->setSituation("outputs", true);
+    m_pair->setLatency(USUAL_LATENCY);
+    arrangeLine();
+    renewReceiver();
     return m_pair->displayEnd();
+}
+
+void unit_t::arrangeLine()
+{
+    for (melvox_link::localLink_t* end : {m_pair->displayEnd(), m_pair->receiverEnd()})
+    {
+        if (m_kind == melvox_kit::LINK_SERIAL)
+            end->makeSerial({m_baud, 8, 'N', 1});
+        else
+            end->makePlain();
+    }
+}
+
+void unit_t::renewReceiver()
+{
+    m_receiver.reset();
+    m_receiver = std::make_unique<melvox_receiver::receiver_t>(m_pair->receiverEnd(), m_clock.get());
+    m_receiver->startReports();
+    m_receiver->setSituation("profileFolder", m_profileFolder);
+}
+
+bool unit_t::keepProfiles(QString const& folder)
+{
+    m_profileFolder = folder;
+    return m_receiver->setSituation("profileFolder", folder);
+}
+
+void unit_t::setBaud(unsigned int baud)
+{
+    m_baud = baud;
+    arrangeLine();
+}
+
+void unit_t::setLinkKind(melvox_kit::linkKind_t kind)
+{
+    if (kind == m_kind)
+        return;
+    emit deviceAboutToGo();
+    m_device.reset();
+    m_kind = kind;
+    arrangeLine();
+    createDevice();
+    emit deviceReplaced();
+    if (m_tap->isOpen())
+        takeOpen(true);
 }
 
 template <typename link_t> melvox_link::link_t* unit_t::keepStream(std::unique_ptr<link_t> link)

@@ -181,6 +181,49 @@ private slots:
         QVERIFY(parsed.text.startsWith("--size takes a width and a height in pixels such as 1024x600"));
     }
 
+    void takesAScenarioAndASpeed()
+    {
+        options_t const options = parse({"--scenario", "slow-link", "--speed", "2.5"}).options;
+        QCOMPARE(options.scenario->title, QString("Slow link"));
+        QCOMPARE(*options.speed, 2.5);
+        QVERIFY(!parse({}).options.scenario);
+        QVERIFY(!parse({}).options.speed);
+    }
+
+    void listsTheScenariosWhenThereIsNoSuchScenario()
+    {
+        parsedOptions_t const parsed = parse({"--scenario", "slow"});
+        QCOMPARE(parsed.result, parsedOptions_t::REFUSE);
+        QVERIFY2(parsed.text.startsWith("There is no scenario \"slow\". The scenarios are: almanac-switch, "),
+                 qPrintable(parsed.text));
+    }
+
+    void refusesASpeedThatIsNone_data()
+    {
+        QTest::addColumn<QString>("text");
+        for (char const* text : {"", "0", "-1", "1000.5", "fast", "nan"})
+            QTest::newRow(text) << text;
+    }
+
+    void refusesASpeedThatIsNone()
+    {
+        QFETCH(QString, text);
+        parsedOptions_t const parsed = parse({"--speed=" + text});
+        QCOMPARE(parsed.result, parsedOptions_t::REFUSE);
+        QCOMPARE(parsed.text, QString("--speed takes a number above 0, at most 1000, not \"%1\".").arg(text));
+    }
+
+    void refusesAScenarioForAReceiverElsewhere()
+    {
+        for (QStringList const& option : {QStringList{"--scenario", "slow-link"}, QStringList{"--speed", "2"}})
+        {
+            parsedOptions_t const parsed = parse(QStringList{"--connect", "tcp:host:5000"} + option);
+            QCOMPARE(parsed.result, parsedOptions_t::REFUSE);
+            QVERIFY2(parsed.text.startsWith(option.first() + " is for the receiver in this program"),
+                     qPrintable(parsed.text));
+        }
+    }
+
     void takesUnitsAndFormat()
     {
         options_t const options = parse({"--units", "ft", "--format", "dms"}).options;
@@ -261,20 +304,20 @@ private slots:
         parsedOptions_t const parsed = parse(arguments);
         QCOMPARE(parsed.result, parsedOptions_t::REFUSE);
         QVERIFY2(parsed.text.startsWith(beginning), qPrintable(parsed.text));
-        QVERIFY2(
-            parsed.text.endsWith(
-                "The options are: --page, --connect, --size, --usb, --tour, --units, --format, "
-                "--settings, --record, --replay, --replay-actions, --replay-speed, --profiles, --help, --version."),
-            qPrintable(parsed.text));
+        QVERIFY2(parsed.text.endsWith(
+                     "The options are: --page, --connect, --size, --usb, --scenario, --speed, --tour, --units, "
+                     "--format, --settings, --record, --replay, --replay-actions, --replay-speed, "
+                     "--profiles, --help, --version."),
+                 qPrintable(parsed.text));
     }
 
     void helpTellsOptionsAndPages()
     {
         parsedOptions_t const parsed = parse({"--help"});
         QCOMPARE(parsed.result, parsedOptions_t::SHOW);
-        for (char const* part :
-             {"--page NAME", "--connect WHERE", "--size WxH", "--tour DIR", "--units m|ft", "--format deg|dm|dms",
-              "--settings FILE", "--usb DIR|real", "--profiles DIR", "--version", "solutionControl, ppsConfig"})
+        for (char const* part : {"--page NAME", "--connect WHERE", "--size WxH", "--scenario NAME|FILE", "--speed N",
+                                 "--tour DIR", "--units m|ft", "--format deg|dm|dms", "--settings FILE",
+                                 "--usb DIR|real", "--profiles DIR", "--version", "solutionControl, ppsConfig"})
             QVERIFY2(parsed.text.contains(part), part);
     }
 

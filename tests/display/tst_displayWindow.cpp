@@ -1,9 +1,13 @@
 #include "brel_common_qt/remoteMelvoxDevice.h"
 #include "display/displayStyle.h"
 #include "display/displayWindow.h"
+#include "display/driveRack.h"
 #include "display/keypad.h"
 #include "display/linkMonitor.h"
+#include "display/monitorModel.h"
+#include "display/receiverPanel.h"
 #include "display/screen.h"
+#include "display/simulation.h"
 #include "display/statusStrip.h"
 #include "display/uiSettings.h"
 #include "display/unit.h"
@@ -25,7 +29,8 @@ namespace
 struct fixture_t
 {
     explicit fixture_t(QSize const& size = QSize(1024, 600))
-        : unit(connection_t()), settings(folder.filePath("display.conf")), window(allPages(), &unit, &settings, size)
+        : unit(connection_t()), drives(QString()), simulation(unit, drives), settings(folder.filePath("display.conf")),
+          window(allPages(), &unit, &settings, size, &simulation)
     {
         unit.start();
         window.showFirstPage(QString());
@@ -36,6 +41,8 @@ struct fixture_t
 
     QTemporaryDir folder;
     unit_t unit;
+    driveRack_t drives;
+    simulation_t simulation;
     uiSettings_t settings;
     displayWindow_t window;
 };
@@ -113,6 +120,43 @@ private slots:
         QVERIFY(!f.window.findChild<QToolButton*>("monitorButton")->isChecked());
     }
 
+    void buttonAndKeyToggleTheReceiverPanel()
+    {
+        fixture_t f;
+        QTest::mouseClick(f.window.findChild<QToolButton*>("panelButton"), Qt::LeftButton);
+        QVERIFY(f.window.isPanelShown());
+        QCOMPARE(f.window.screen()->size(), QSize(1024, 600));
+        QTest::keyClick(&f.window, Qt::Key_F11);
+        QVERIFY(!f.window.isPanelShown());
+        QVERIFY(!f.window.findChild<QToolButton*>("panelButton")->isChecked());
+    }
+
+    void monitorAndPanelTakeTheSamePlace()
+    {
+        fixture_t f;
+        f.window.toggleMonitor();
+        QSize const size = f.window.size();
+        f.window.togglePanel();
+        QVERIFY(f.window.isPanelShown());
+        QVERIFY(!f.window.isMonitorShown());
+        QCOMPARE(f.window.size(), size);
+        QVERIFY(!f.window.findChild<QToolButton*>("monitorButton")->isChecked());
+        QVERIFY(f.window.findChild<QToolButton*>("panelButton")->isChecked());
+        f.window.toggleMonitor();
+        QVERIFY(f.window.isMonitorShown());
+        QVERIFY(!f.window.isPanelShown());
+    }
+
+    void withoutASimulationThereIsNoPanel()
+    {
+        fixture_t f;
+        displayWindow_t plain(allPages(), &f.unit, &f.settings, QSize(800, 480));
+        plain.show();
+        QVERIFY(!plain.findChild<QToolButton*>("panelButton")->isVisible());
+        plain.togglePanel();
+        QVERIFY(!plain.isPanelShown());
+    }
+
     void monitorShowsWhatPassesOverTheLink()
     {
         fixture_t f;
@@ -120,8 +164,8 @@ private slots:
         QVERIFY(melvox_test::waitFor([&]() { return table->model()->rowCount() > 20; }));
         QStringList rows;
         for (int row = 0; row < table->model()->rowCount(); ++row)
-            rows << table->model()->index(row, 1).data().toString() + " " +
-                        table->model()->index(row, 3).data().toString();
+            rows << table->model()->index(row, monitorModel_t::COLUMN_DIRECTION).data().toString() + " " +
+                        table->model()->index(row, monitorModel_t::COLUMN_GROUP).data().toString();
         QVERIFY(rows.contains("to receiver elevationMask"));
     }
 

@@ -1,10 +1,7 @@
 #include "brel_common_qt/kitUsb.h"
 #include "brel_common_qt/remoteMelvoxDevice.h"
 #include "brel_common_qt/usbDriveManager.h"
-#include "display/dialogHost.h"
 #include "display/displayStyle.h"
-#include "display/displayWindow.h"
-#include "display/screen.h"
 #include "display/uiSettings.h"
 #include "display/unit.h"
 #include "link/localLink.h"
@@ -12,8 +9,7 @@
 #include "receiver/receiver.h"
 #include "receiver/simClock.h"
 #include "support/folder.h"
-#include "support/operator.h"
-#include "support/test.h"
+#include "support/unitScreen.h"
 
 #include <QApplication>
 #include <QProcess>
@@ -48,45 +44,13 @@ struct fixture_t
     }
     ~fixture_t() { melvox_kit::setUsbRoot(QString()); }
 
-    QWidget* page(QString const& name)
-    {
-        window.screen()->showPage(name);
-        melvox_test::settle();
-        return window.screen()->page(name);
-    }
-
-    /** The dialog on top, once it is one of that class. */
-    QDialog* dialog(char const* name)
-    {
-        displayDialogHost_t* const host = window.screen()->dialogs();
-        waitFor([&]() { return host->currentDialog() && host->currentDialog()->objectName() == name; });
-        return host->currentDialog();
-    }
-    QMessageBox* card()
-    {
-        displayDialogHost_t* const host = window.screen()->dialogs();
-        waitFor([&]() { return host->currentCard() != nullptr; }, 20000);
-        return qobject_cast<QMessageBox*>(host->currentCard());
-    }
-
-    void chooseDrive(QString const& name)
-    {
-        QDialog* const choice = dialog("usbDriveSelectDialog");
-        QTreeWidget* const tree = find<QTreeWidget>(choice, "driveTreeWidget");
-        QVERIFY(waitFor([&]() { return !tree->findItems(name, Qt::MatchExactly).isEmpty(); }));
-        tree->setCurrentItem(tree->findItems(name, Qt::MatchExactly).first());
-        tap(choice, "selectButton");
-    }
-
+    QWidget* page(QString const& name) { return melvox_test::showPage(window, name); }
+    QDialog* dialog(char const* name) { return melvox_test::shownDialog(window, name); }
+    QMessageBox* card() { return melvox_test::shownCard(window); }
+    void chooseDrive(QString const& name) { melvox_test::chooseDrive(window, name); }
     void chooseFile(char const* list, QString const& name, char const* select)
     {
-        QDialog* const files = dialog(list);
-        QCOMPARE(files->objectName(), QString(list));
-        QVERIFY(waitFor([&]() { return !button(files, "Stop Scan")->isEnabled(); }));
-        QTreeWidget* const tree = find<QTreeWidget>(files, "treeWidget");
-        QVERIFY2(!tree->findItems(name, Qt::MatchExactly).isEmpty(), qPrintable(name + " is not listed"));
-        tree->setCurrentItem(tree->findItems(name, Qt::MatchExactly).first());
-        tap(files, select);
+        melvox_test::chooseFile(window, list, name, select);
     }
 
     /** The page that compares, with this file of the drive chosen. */

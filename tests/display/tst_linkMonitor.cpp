@@ -3,6 +3,7 @@
 #include "support/test.h"
 
 #include <QApplication>
+#include <QClipboard>
 #include <QLabel>
 #include <QLineEdit>
 #include <QPlainTextEdit>
@@ -51,6 +52,9 @@ class tst_linkMonitor : public melvox_test::test_t
     Q_OBJECT
 
 private slots:
+    /** As on the display: a cursor that blinks would be a timer too. */
+    void initTestCase() { QApplication::setCursorFlashTime(0); }
+
     void showsEveryMessageAsItPassed()
     {
         monitorModel_t model(10);
@@ -143,7 +147,19 @@ private slots:
         model.add(report(1), false);
         QVERIFY(anyTimerIn(&model));
         QVERIFY(waitForRows(model, 1));
-        QVERIFY(melvox_test::waitFor([&]() { return !anyTimerIn(&model) && !anyTimerIn(&monitor); }));
+        QVERIFY(melvox_test::waitFor([&]() { return !anyTimerIn(&model); }));
+        // Ages go on only while somebody can see them.
+        QVERIFY(anyTimerIn(&monitor));
+        monitor.findChild<QPushButton*>("monitorPauseButton")->click();
+        QVERIFY(melvox_test::waitFor([&]() { return !anyTimerIn(&monitor); }));
+        monitor.findChild<QPushButton*>("monitorPauseButton")->click();
+        QVERIFY(anyTimerIn(&monitor));
+        monitor.hide();
+        QVERIFY(melvox_test::waitFor([&]() { return !anyTimerIn(&monitor); }));
+        monitor.show();
+        QVERIFY(anyTimerIn(&monitor));
+        model.clear();
+        QVERIFY(melvox_test::waitFor([&]() { return !anyTimerIn(&monitor); }));
     }
 
     void newestIsInSightUnlessOneReadsFurtherUp()
@@ -202,6 +218,81 @@ private slots:
         QCOMPARE(table->model()->rowCount(), 0);
         filter->clear();
         QCOMPARE(table->model()->rowCount(), 2);
+    }
+
+    void filterDoesNotHeedTheAge()
+    {
+        monitorModel_t model(50);
+        linkMonitor_t monitor(&model);
+        model.add(message_t(message_t::REQUEST, "pdopLimit"), true);
+        QVERIFY(waitForRows(model, 1));
+        monitor.findChild<QLineEdit*>("monitorFilterEdit")->setText(" s");
+        QCOMPARE(monitor.findChild<QTableView*>("monitorTable")->model()->rowCount(), 0);
+    }
+
+    void ageIsReadable_data()
+    {
+        QTest::addColumn<qint64>("milliseconds");
+        QTest::addColumn<QString>("text");
+        QTest::newRow("clock set back") << qint64(-5000) << "0.0 s";
+        QTest::newRow("just now") << qint64(99) << "0.0 s";
+        QTest::newRow("seconds") << qint64(3299) << "3.2 s";
+        QTest::newRow("last seconds") << qint64(59999) << "59.9 s";
+        QTest::newRow("minutes") << qint64(60000) << "1 min 00 s";
+        QTest::newRow("last minutes") << qint64(3599999) << "59 min 59 s";
+        QTest::newRow("hours") << qint64(7620000) << "2 h 07 min";
+    }
+
+    void ageIsReadable()
+    {
+        QFETCH(qint64, milliseconds);
+        QTEST(ageText(milliseconds), "text");
+    }
+
+    void ageGoesOnUntilItIsPaused()
+    {
+        monitorModel_t model(5);
+        model.add(report(1), false);
+        QVERIFY(waitForRows(model, 1));
+        QString const first = cell(model, 0, monitorModel_t::COLUMN_AGE);
+        QVERIFY(melvox_test::waitFor([&]() { return cell(model, 0, monitorModel_t::COLUMN_AGE) != first; }));
+        model.setPaused(true);
+        QString const paused = cell(model, 0, monitorModel_t::COLUMN_AGE);
+        QElapsedTimer timer;
+        timer.start();
+        QVERIFY(melvox_test::waitFor([&]() { return timer.elapsed() > 150; }));
+        QCOMPARE(cell(model, 0, monitorModel_t::COLUMN_AGE), paused);
+        model.setPaused(false);
+        QVERIFY(cell(model, 0, monitorModel_t::COLUMN_AGE) != paused);
+    }
+
+    void copiesAllRowsThatPassTheFilterOrTheSelectedOnes()
+    {
+        monitorModel_t model(50);
+        linkMonitor_t monitor(&model);
+        QPushButton* copy = monitor.findChild<QPushButton*>("monitorCopyButton");
+        QVERIFY(!copy->isEnabled());
+        QString const longText(500, 'x');
+        model.add(message_t(message_t::REQUEST, "pdopLimit"), true);
+        model.add(report(1), false);
+        model.add(message_t(message_t::REPORT, "baseName", longText), false);
+        QVERIFY(waitForRows(model, 3));
+        copy->click();
+        QStringList lines = QApplication::clipboard()->text().split('\n');
+        QCOMPARE(int(lines.size()), 4);
+        QVERIFY2(QRegularExpression("^\\d\\d:\\d\\d:\\d\\d\\.\\d\\d\\d to receiver request pdopLimit$")
+                     .match(lines.first())
+                     .hasMatch(),
+                 qPrintable(lines.first()));
+        QVERIFY(lines.at(2).contains(longText));
+        monitor.findChild<QLineEdit*>("monitorFilterEdit")->setText("to display");
+        copy->click();
+        QCOMPARE(int(QApplication::clipboard()->text().split('\n').size()), 3);
+        QTableView* table = monitor.findChild<QTableView*>("monitorTable");
+        table->selectRow(0);
+        copy->click();
+        QVERIFY(QApplication::clipboard()->text().endsWith("to display report elevationMask 1\n"));
+        QCOMPARE(int(QApplication::clipboard()->text().count('\n')), 1);
     }
 
     void selectedMessageCanBeReadWhole()
