@@ -115,7 +115,8 @@ void displayWindow_t::toggleMonitor()
 
 void displayWindow_t::togglePanel()
 {
-    showSide(isPanelShown() ? nullptr : m_panel);
+    if (m_panel)
+        showSide(isPanelShown() ? nullptr : m_panel);
 }
 
 void displayWindow_t::showSide(QWidget* side)

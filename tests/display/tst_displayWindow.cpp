@@ -153,8 +153,10 @@ private slots:
         displayWindow_t plain(allPages(), &f.unit, &f.settings, QSize(800, 480));
         plain.show();
         QVERIFY(!plain.findChild<QToolButton*>("panelButton")->isVisible());
+        plain.toggleMonitor();
         plain.togglePanel();
         QVERIFY(!plain.isPanelShown());
+        QVERIFY(plain.isMonitorShown());
     }
 
     void monitorShowsWhatPassesOverTheLink()

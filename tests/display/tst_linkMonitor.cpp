@@ -290,7 +290,11 @@ private slots:
         QCOMPARE(int(QApplication::clipboard()->text().split('\n').size()), 3);
         QTableView* table = monitor.findChild<QTableView*>("monitorTable");
         table->selectRow(0);
-        copy->click();
+        monitor.show();
+        monitor.activateWindow();
+        QVERIFY(QTest::qWaitForWindowActive(&monitor));
+        table->setFocus();
+        QTest::keyClick(table, Qt::Key_C, Qt::ControlModifier);
         QVERIFY(QApplication::clipboard()->text().endsWith("to display report elevationMask 1\n"));
         QCOMPARE(int(QApplication::clipboard()->text().count('\n')), 1);
     }
