@@ -146,7 +146,7 @@ QTableView* linkMonitor_t::createTable()
     table->verticalHeader()->setDefaultSectionSize(ROW_HEIGHT);
     table->horizontalHeader()->setStretchLastSection(true);
     table->horizontalHeader()->setDefaultAlignment(Qt::AlignLeft | Qt::AlignVCenter);
-    int const widths[] = {96, 84, 84, 66, 140};
+    int const widths[] = {92, 76, 84, 62, 140};
     for (int column = 0; column < monitorModel_t::COLUMN_VALUE; ++column)
         table->setColumnWidth(column, widths[column]);
     return table;

@@ -229,9 +229,11 @@ QWidget* receiverPanel_t::createScenarioBox()
     m_shows->setAlignment(Qt::AlignTop | Qt::AlignLeft);
     QGridLayout* grid = new QGridLayout(box);
     addRow(grid, 0, tr("Scenario:"), m_scenario);
-    grid->addWidget(m_start, 0, 2);
+    // Titles are long.
+    grid->addWidget(m_scenario, 0, 1, 1, 2);
     grid->addWidget(m_shows, 1, 0, 1, 3);
-    grid->addWidget(m_state, 2, 0, 1, 3);
+    grid->addWidget(m_state, 2, 0, 1, 2);
+    grid->addWidget(m_start, 2, 2);
     addRow(grid, 3, tr("Clock speed:"), m_speed);
     box->setEnabled(m_simulation->hasReceiver());
     return box;
