@@ -275,6 +275,8 @@ private slots:
         QTest::newRow("another receiver")
             << QStringList{"--replay=a", "--connect=tcp:host:5000"}
             << "A journal brings what --connect says of its own: leave it out with --replay.";
+        QTest::newRow("a scenario") << QStringList{"--replay=a", "--scenario=slow-link"}
+                                    << "A journal brings what --scenario says of its own: leave it out with --replay.";
         QTest::newRow("another size") << QStringList{"--replay=a", "--size=800x480"}
                                       << "A journal brings what --size says of its own: leave it out with --replay.";
     }
