@@ -1,17 +1,15 @@
 #include "allPages.h"
 
 #include "support/everything.h"
+#include "support/pageChecks.h"
 #include "support/pageCreator.h"
 #include "support/pageTest.h"
 
-#include <QDialogButtonBox>
-#include <QGroupBox>
-#include <QScrollBar>
-#include <QTextEdit>
 #include <QTranslator>
 
 using namespace brel_common_qt;
 using namespace brel_common_qt_gui;
+using melvox_test::isInner;
 
 namespace
 {
@@ -28,32 +26,6 @@ melvox_test::create_t creatorOf(QString const& name)
             return page.create;
     }
     return 0;
-}
-
-int const TOUCH_HEIGHT = 40;
-
-bool isEditor(QWidget const* widget)
-{
-    return qobject_cast<QLineEdit const*>(widget) || qobject_cast<QComboBox const*>(widget) ||
-           qobject_cast<QAbstractButton const*>(widget);
-}
-
-/** The parts of Qt's own that widgets are made of: the edit of a combo box, the arrows of a scroll bar. */
-bool isInner(QWidget const* widget)
-{
-    return widget->objectName().isEmpty() || widget->objectName().startsWith("qt_") ||
-           qobject_cast<QComboBox const*>(widget->parentWidget());
-}
-
-bool hasBuddy(QWidget* page, QWidget const* editor)
-{
-    QList<QLabel*> const labels = page->findChildren<QLabel*>();
-    for (QLabel const* label : labels)
-    {
-        if (label->buddy() == editor)
-            return true;
-    }
-    return false;
 }
 
 /** Lays the page out at a size without a window system's help. */
@@ -74,8 +46,6 @@ class tst_allPages : public melvox_test::pageTest_t
 private:
     static void rows();
     QWidget* build();
-    static QStringList touchFaults(QWidget* page);
-    static QStringList cutOff(QWidget* page);
     static void press(QWidget* page, char const* slot);
 
     QTranslator m_translator;
@@ -193,7 +163,7 @@ void tst_allPages::namesItsWidgetsUniquely()
     QList<QWidget*> const widgets = page->findChildren<QWidget*>();
     for (QWidget const* widget : widgets)
     {
-        if (isInner(widget) || widget->window() != page.data())
+        if (widget->objectName().isEmpty() || isInner(widget) || widget->window() != page.data())
             continue;
         QVERIFY2(!names.contains(widget->objectName()), qPrintable(widget->objectName()));
         names << widget->objectName();
@@ -204,18 +174,7 @@ void tst_allPages::namesItsWidgetsUniquely()
 void tst_allPages::namesEachEditorForThoseWhoCannotSeeIt()
 {
     QScopedPointer<QWidget> const page(build());
-    QStringList nameless;
-    QList<QWidget*> const widgets = page->findChildren<QWidget*>();
-    for (QWidget* widget : widgets)
-    {
-        if (!isEditor(widget) || isInner(widget) || widget->window() != page.data())
-            continue;
-        QAbstractButton const* const button = qobject_cast<QAbstractButton const*>(widget);
-        bool const named = !widget->accessibleName().isEmpty() || (button && !button->text().isEmpty()) ||
-                           hasBuddy(page.data(), widget);
-        if (!named)
-            nameless << widget->objectName();
-    }
+    QStringList const nameless = melvox_test::namelessWidgets(page.data());
     QVERIFY2(nameless.isEmpty(), qPrintable(nameless.join(", ")));
 }
 
@@ -262,51 +221,13 @@ void tst_allPages::fitsTheSmallestScreen()
              qPrintable(QString("%1 x %2").arg(page->minimumSizeHint().width()).arg(page->minimumSizeHint().height())));
 }
 
-QStringList tst_allPages::touchFaults(QWidget* page)
-{
-    QStringList faults;
-    QList<QWidget*> const widgets = page->findChildren<QWidget*>();
-    for (QWidget* widget : widgets)
-    {
-        if (isEditor(widget) && widget->isVisible() && !isInner(widget) && widget->window() == page &&
-            widget->height() < TOUCH_HEIGHT)
-            faults << QString("%1 is %2 high").arg(widget->objectName()).arg(widget->height());
-        QAbstractButton const* const button = qobject_cast<QAbstractButton const*>(widget);
-        if (button && button->isVisible() && qobject_cast<QDialogButtonBox*>(button->parentWidget()) &&
-            button->height() < TOUCH_HEIGHT)
-            faults << QString("%1 is %2 high").arg(button->text()).arg(button->height());
-    }
-    return faults;
-}
-
 void tst_allPages::isLargeEnoughForFingers()
 {
     QScopedPointer<QWidget> const page(build());
     melvox_test::reportEverything(receiver);
     layOut(page.data(), 800, 480);
-    QStringList const faults = touchFaults(page.data());
+    QStringList const faults = melvox_test::tooLowForFingers(page.data());
     QVERIFY2(faults.isEmpty(), qPrintable(faults.join(", ")));
-}
-
-QStringList tst_allPages::cutOff(QWidget* page)
-{
-    QStringList faults;
-    QList<QWidget*> const widgets = page->findChildren<QWidget*>();
-    for (QWidget* widget : widgets)
-    {
-        if (!widget->isVisible() || widget->window() != page || isInner(widget))
-            continue;
-        QLabel const* const label = qobject_cast<QLabel const*>(widget);
-        bool const text = (label && !label->wordWrap()) || qobject_cast<QAbstractButton*>(widget);
-        if (text && (widget->width() < widget->sizeHint().width() || widget->height() < widget->sizeHint().height()))
-            faults << widget->objectName();
-        if (label && label->wordWrap() && label->height() < label->heightForWidth(label->width()))
-            faults << widget->objectName();
-        QRect const inside = widget->parentWidget()->contentsRect();
-        if (label && !inside.contains(widget->geometry()))
-            faults << widget->objectName() + " stands out";
-    }
-    return faults;
 }
 
 void tst_allPages::cutsNothingOffWithTheLongestValues()
@@ -314,7 +235,8 @@ void tst_allPages::cutsNothingOffWithTheLongestValues()
     QScopedPointer<QWidget> const page(build());
     melvox_test::reportTheLongest(receiver);
     layOut(page.data(), 800, 480);
-    QStringList const faults = cutOff(page.data());
+    QStringList const faults = melvox_test::cutOff(page.data()) + melvox_test::tooShort(page.data(), 1) +
+                               melvox_test::overlapping(page.data());
     QVERIFY2(faults.isEmpty(), qPrintable(faults.join(", ")));
 }
 

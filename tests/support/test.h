@@ -33,6 +33,10 @@ private slots:
  *  come. */
 void expectWarning(QString const& part);
 
+/** Lets warnings that contain this text pass in the current test function, however many come. For what the platform
+ *  that tests run on cannot do. */
+void allowWarnings(QString const& part);
+
 /** Runs the event loop until the condition holds; false when it did not within the time. Tests never just wait. */
 template <typename condition_t> bool waitFor(condition_t condition, int milliseconds = 5000)
 {
