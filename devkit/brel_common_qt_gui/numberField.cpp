@@ -70,7 +70,7 @@ void setFieldPrompt(QLineEdit* field, QString const& prompt, QString const& acce
 
 void showTaken(QLineEdit* field, bool taken)
 {
-    QString const style = QLatin1String(taken ? "" : "QLineEdit { color:#ff0000; }");
+    QString const style = QLatin1String(taken ? "" : "QLineEdit { color:#b3261e; }");
     if (field->styleSheet() != style)
         field->setStyleSheet(style);
 }

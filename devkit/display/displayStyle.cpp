@@ -26,6 +26,8 @@ namespace
 {
 
 int const FONT_PIXELS = 16;
+QColor const PAGES_RED(0xff, 0, 0);
+QColor const READABLE_RED(0xb3, 0x26, 0x1e);
 
 QPalette displayPalette()
 {
@@ -84,6 +86,15 @@ int displayStyle_t::styleHint(StyleHint hint, QStyleOption const* option, QWidge
     default:
         return QProxyStyle::styleHint(hint, option, widget, returnData);
     }
+}
+
+void displayStyle_t::drawItemText(QPainter* painter, QRect const& rect, int flags, QPalette const& palette,
+                                  bool enabled, QString const& text, QPalette::ColorRole role) const
+{
+    QPalette readable(palette);
+    if (role != QPalette::NoRole && palette.color(role) == PAGES_RED)
+        readable.setColor(role, READABLE_RED);
+    QProxyStyle::drawItemText(painter, rect, flags, readable, enabled, text, role);
 }
 
 void applyDisplayStyle(QApplication& application)

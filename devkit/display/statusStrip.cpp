@@ -25,7 +25,7 @@ QString textOf(linkState_t state)
     case linkState_t::INTERRUPTED:
         return statusStrip_t::tr("LINK INTERRUPTED");
     case linkState_t::RECONNECTING:
-        return statusStrip_t::tr("LINK INTERRUPTED - Reconnecting");
+        return statusStrip_t::tr("RECONNECTING");
     }
     return QString();
 }

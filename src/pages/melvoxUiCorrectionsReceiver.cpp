@@ -239,7 +239,7 @@ void melvoxUiCorrectionsReceiver_t::fitColumnsOnce()
     m_data->setUi.setBit(SAT_STATS);
     setResizeMode(header, QHeaderView::Interactive);
     QFontMetrics const metrics(m_data->ui.statusTree->font());
-    int const margin = metrics.boundingRect("00").width();
+    int const margin = metrics.boundingRect("000").width();
     widen(header, item_t::COLUMN_SIGNAL_STATUS, statusWidth(metrics) + margin);
     widen(header, item_t::COLUMN_SNR, metrics.boundingRect(fixed(-100, STATS_DECIMALS)).width() + margin);
 }

@@ -6,6 +6,7 @@
 #include "support/pageSupport.h"
 #include "support/qtCompat.h"
 
+#include <QHeaderView>
 #include <QHostAddress>
 #include <QPushButton>
 
@@ -55,6 +56,7 @@ melvoxUiEthernetConfiguration_t::melvoxUiEthernetConfiguration_t(remoteMelvoxDev
     : m_data(new privateData_t(device))
 {
     m_data->ui.setupUi(this);
+    setResizeMode(m_data->ui.accessPointsTreeWidget->header(), QHeaderView::ResizeToContents);
     createButtons();
     createEdits();
     createWarning();

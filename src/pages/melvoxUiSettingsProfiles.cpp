@@ -7,9 +7,11 @@
 #include "melvox_ui/melvoxUiProfileLoader.h"
 #include "support/asciiText.h"
 #include "support/pageSupport.h"
+#include "support/qtCompat.h"
 #include "support/text8.h"
 
 #include <QDateTime>
+#include <QHeaderView>
 #include <QLocale>
 #include <QPushButton>
 #include <QTimer>
@@ -79,6 +81,7 @@ melvoxUiSettingsProfiles_t::privateData_t::~privateData_t()
 melvoxUiSettingsProfiles_t::melvoxUiSettingsProfiles_t(remoteMelvoxDevice_t* device) : m_data(new privateData_t(device))
 {
     m_data->ui.setupUi(this);
+    setResizeMode(m_data->ui.profileList->header(), QHeaderView::ResizeToContents);
     m_data->ui.profileList->sortByColumn(NAME_COLUMN, Qt::AscendingOrder);
     m_data->dumper = new melvoxUiProfileDumper_t(device, this);
     m_data->loader = new melvoxUiProfileLoader_t(device, this);

@@ -33,7 +33,7 @@ private slots:
         QTest::newRow("connecting") << int(linkState_t::CONNECTING) << "Connecting" << false;
         QTest::newRow("connected") << int(linkState_t::CONNECTED) << "Connected" << false;
         QTest::newRow("interrupted") << int(linkState_t::INTERRUPTED) << "LINK INTERRUPTED" << true;
-        QTest::newRow("reconnecting") << int(linkState_t::RECONNECTING) << "LINK INTERRUPTED - Reconnecting" << true;
+        QTest::newRow("reconnecting") << int(linkState_t::RECONNECTING) << "RECONNECTING" << true;
     }
 
     void saysHowTheLinkIs()
