@@ -154,16 +154,20 @@ void displayDialogHost_t::drop(int index)
 void displayDialogHost_t::arrange()
 {
     QWidget* top = m_page;
+    QWidget* focus = m_page;
     for (entry_t const& entry : m_entries)
     {
-        if (entry.view)
-            top = entry.view;
+        if (!entry.view)
+            continue;
+        top = entry.view;
+        focus = entry.dialog;
     }
     if (top && top != m_area->currentWidget())
     {
         m_area->setCurrentWidget(top);
-        // Or the first field there is would have it.
-        top->setFocus();
+        // Or the first field there is would have it. A dialog takes keys only when they come to it or to what is in it.
+        if (focus)
+            focus->setFocus();
     }
     emit changed();
 }

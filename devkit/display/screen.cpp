@@ -11,6 +11,7 @@
 
 #include <QDialog>
 #include <QHBoxLayout>
+#include <QKeyEvent>
 #include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
@@ -241,6 +242,15 @@ void screen_t::resizeEvent(QResizeEvent* event)
     QWidget::resizeEvent(event);
     m_keypad->setCompact(height() < HIGH);
     arrange();
+}
+
+void screen_t::keyPressEvent(QKeyEvent* event)
+{
+    // Comes here when the operator has touched the screen beside the dialog.
+    if (event->key() == Qt::Key_Escape && m_dialogs->currentDialog())
+        m_dialogs->back();
+    else
+        QWidget::keyPressEvent(event);
 }
 
 void screen_t::makeRoomForKeypad()

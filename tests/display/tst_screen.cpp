@@ -371,6 +371,66 @@ private slots:
         QVERIFY(f.button("menuButton")->isVisible());
     }
 
+    void escapeClosesTheDialogOnTop()
+    {
+        fixture_t f;
+        f.screen.showPage("short");
+        QDialog dialog;
+        QVBoxLayout layout(&dialog);
+        QLineEdit* edit = new QLineEdit(&dialog);
+        layout.addWidget(edit);
+        f.screen.dialogs()->showDialog(&dialog);
+        melvox_test::settle();
+        QTest::keyClick(f.screen.windowHandle(), Qt::Key_Escape);
+        QVERIFY2(dialog.isHidden(), "as it is shown");
+        f.screen.dialogs()->showDialog(&dialog);
+        edit->setFocus(Qt::TabFocusReason);
+        QTest::keyClick(f.screen.windowHandle(), Qt::Key_Escape);
+        QVERIFY2(dialog.isHidden(), "while something in it has the focus");
+        f.screen.dialogs()->showDialog(&dialog);
+        dialog.parentWidget()->setFocus(Qt::MouseFocusReason);
+        QTest::keyClick(f.screen.windowHandle(), Qt::Key_Escape);
+        QVERIFY2(dialog.isHidden(), "after a tap beside it");
+        QTest::keyClick(f.screen.windowHandle(), Qt::Key_Escape);
+        QVERIFY(f.screen.page("short")->isVisible());
+    }
+
+    void enterPressesTheDefaultButtonOfADialog()
+    {
+        fixture_t f;
+        f.screen.showPage("short");
+        QDialog dialog;
+        QVBoxLayout layout(&dialog);
+        QPushButton* ok = new QPushButton("OK", &dialog);
+        ok->setDefault(true);
+        connect(ok, &QPushButton::clicked, &dialog, &QDialog::accept);
+        layout.addWidget(ok);
+        QSignalSpy accepted(&dialog, &QDialog::accepted);
+        f.screen.dialogs()->showDialog(&dialog);
+        melvox_test::settle();
+        QTest::keyClick(f.screen.windowHandle(), Qt::Key_Return);
+        QCOMPARE(accepted.size(), 1);
+    }
+
+    void escapeAndEnterAnswerAMessageBox()
+    {
+        fixture_t f;
+        f.screen.showPage("short");
+        QMessageBox box(QMessageBox::Question, "Delete?", "Delete it?", QMessageBox::Yes | QMessageBox::No);
+        box.setDefaultButton(QMessageBox::Yes);
+        QSignalSpy finished(&box, &QDialog::finished);
+        for (Qt::Key key : {Qt::Key_Escape, Qt::Key_Return})
+        {
+            f.screen.dialogs()->showDialog(&box);
+            melvox_test::settle();
+            QTest::keyClick(f.screen.windowHandle(), key);
+            QVERIFY(box.isHidden());
+        }
+        QCOMPARE(finished.size(), 2);
+        QCOMPARE(finished.at(0).at(0).toInt(), int(QMessageBox::No));
+        QCOMPARE(finished.at(1).at(0).toInt(), int(QMessageBox::Yes));
+    }
+
     void anotherPageRejectsTheDialog()
     {
         fixture_t f;
