@@ -1,32 +1,16 @@
 #ifndef MELVOX_BENCH_H
 #define MELVOX_BENCH_H
 
-#include "brel_common_qt/kitPort.h"
-#include "brel_common_qt/remoteMelvoxDevice.h"
-#include "link/scriptedLink.h"
+#include "loads.h"
 
 #include <QApplication>
 #include <QMessageBox>
 
 #include <benchmark/benchmark.h>
 
-#include <memory>
-
 /** Measurements come in pairs: "what/which" and "what/which/bare", the bare way of doing the same. */
 namespace melvox_bench
 {
-
-/** A proxy on a receiver that the measurement plays. */
-struct receiver_t
-{
-    receiver_t()
-        : device(new brel_common_qt::remoteMelvoxDevice_t(melvox_kit::createPort(&link, melvox_kit::LINK_OTHER)))
-    {
-    }
-
-    melvox_link::scriptedLink_t link;
-    std::unique_ptr<brel_common_qt::remoteMelvoxDevice_t> device;
-};
 
 /** Building (and destroying) a page. */
 template <typename page_t> void buildPage(benchmark::State& state)

@@ -29,31 +29,13 @@ typedef bareDialog_t<Ui_melvoxUiCorrectionSatSelectDialog> bareSatSelect_t;
 typedef bareDialog_t<Ui_melvoxUiBasePositionDialog> bareBasePosition_t;
 typedef bareDialog_t<Ui_melvoxUiAntennaConfigDialog> bareAntennaConfig_t;
 
-/** What so many satellites tell once a second, with another value in every column that moves. */
-QVariantMap statistics(int satellites, bool other)
-{
-    double const more = other ? 0.25 : 0.0;
-    QVariantList sats;
-    for (int i = 0; i < satellites; ++i)
-    {
-        sats << QVariantMap{{"id", 100 + i},
-                            {"beam", 1 + i % 8},
-                            {"status", other ? 8 : 9},
-                            {"strength", 9.75 + more},
-                            {"agcVoltage", 1.5 + more},
-                            {"goodPercent", 97.5 + more},
-                            {"idlePercent", 2.25 + more},
-                            {"resyncCount", other ? 2 : 1},
-                            {"frequencyOffset", -321.5 + more}};
-    }
-    return {{"inUse", 100}, {"sats", sats}};
-}
-
 void refreshStatistics(benchmark::State& state)
 {
     melvox_bench::receiver_t receiver;
     melvoxUiCorrectionsReceiver_t page(receiver.device.get());
-    QVariantMap const reports[] = {statistics(int(state.range(0)), false), statistics(int(state.range(0)), true)};
+    int const satellites = int(state.range(0));
+    QVariantMap const reports[] = {melvox_bench::satelliteStatistics(satellites, false),
+                                   melvox_bench::satelliteStatistics(satellites, true)};
     receiver.link.report("correctionSatStats", reports[0]);
     page.show();
     QCoreApplication::processEvents();

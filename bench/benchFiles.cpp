@@ -1,8 +1,6 @@
 #include "bench.h"
 
-#include "brel_common_qt/fileScanner.h"
 #include "brel_common_qt/melvoxFirmware.h"
-#include "firmware/firmwareFile.h"
 #include "link/localLink.h"
 #include "melvox_ui/melvoxUiFirmwareUpdate.h"
 #include "melvox_ui/melvoxUiProfileLoader.h"
@@ -24,13 +22,8 @@
 #include "ui_melvoxUiWebInterface.h"
 #include "ui_melvoxVersionWarnDialog.h"
 
-#include <QDirIterator>
-#include <QEventLoop>
 #include <QFile>
 #include <QProcess>
-#include <QTemporaryDir>
-
-#include <malloc.h>
 
 using namespace brel_common_qt;
 using namespace brel_common_qt_gui;
@@ -40,70 +33,30 @@ using melvox_bench::buildForm;
 using melvox_bench::buildForms;
 using melvox_bench::buildPage;
 using melvox_bench::buildPlainDialog;
+using melvox_bench::drive;
+using melvox_bench::firmwareFile;
+using melvox_bench::MEGABYTE;
+using melvox_bench::PRODUCT;
 
 namespace
 {
 
-qint64 const MEGABYTE = 1000 * 1000;
 qint64 const FIRMWARE_SIZE = 50 * MEGABYTE;
 qint64 const PROFILE_SIZE = 10 * MEGABYTE;
 int const BLOCK_SIZE = 1024;
 /** By then whatever is made once has been made. */
 int const WARM_BLOCKS = 1000;
-int const FOLDERS = 100;
-int const FILES_PER_FOLDER = 100;
-int const PRODUCT = 8;
+int const FILES = 10000;
+int const FIRMWARE_FILES = FILES / 10;
 
 typedef bareDialog_t<Ui_melvoxUiUsbWebUiSelectDialog> bareWebSelect_t;
 typedef bareDialog_t<Ui_melvoxUiProfileDumpDialog> bareDump_t;
 typedef bareDialog_t<Ui_melvoxUiProfileLoadDialog> bareLoad_t;
 typedef bareDialog_t<Ui_melvoxVersionWarnDialog> bareVersionWarn_t;
 
-QString place(QString const& name)
-{
-    static QTemporaryDir const folder;
-    return folder.filePath(name);
-}
-
-void open(QFile& file)
-{
-    if (!file.open(QIODevice::WriteOnly))
-        qFatal("%s cannot be written", qPrintable(file.fileName()));
-}
-
-/** A firmware file of one component, as S-records. */
-QString firmwareFile()
-{
-    static QString path;
-    if (!path.isEmpty())
-        return path;
-    path = place("big.srec");
-    QFile file(path);
-    open(file);
-    melvox_firmware::part_t part;
-    part.component = MELVOX_FW_COMP_NAV;
-    part.version = "1.15.2";
-    part.product = PRODUCT;
-    melvox_firmware::packageWriter_t writer;
-    writer.start(part);
-    std::string piece(64 * 1024, '\0');
-    for (std::size_t i = 0; i < piece.size(); ++i)
-        piece[i] = char(i * 37 + i / 251);
-    for (qint64 size = 0; size < FIRMWARE_SIZE;)
-    {
-        writer.add(piece.data(), piece.size());
-        std::string const text = writer.takeText();
-        size += file.write(text.data(), qint64(text.size()));
-    }
-    writer.finish();
-    std::string const text = writer.takeText();
-    file.write(text.data(), qint64(text.size()));
-    return path;
-}
-
 void scanSrecord(benchmark::State& state)
 {
-    QString const path = firmwareFile();
+    QString const path = firmwareFile(FIRMWARE_SIZE);
     for (auto _ : state)
     {
         QList<melvoxFirmwareScanRecord_t> records;
@@ -116,7 +69,7 @@ void scanSrecord(benchmark::State& state)
 
 void srecInfo(benchmark::State& state)
 {
-    QString const path = firmwareFile();
+    QString const path = firmwareFile(FIRMWARE_SIZE);
     for (auto _ : state)
     {
         QProcess program;
@@ -128,92 +81,31 @@ void srecInfo(benchmark::State& state)
     state.SetBytesProcessed(int64_t(state.iterations()) * QFileInfo(path).size());
 }
 
-/** A drive with ten thousand files, one in ten of them a firmware file. */
-QString drive()
-{
-    static QString path;
-    if (!path.isEmpty())
-        return path;
-    path = place("drive");
-    for (int folder = 0; folder < FOLDERS; ++folder)
-    {
-        QString const inner = QString("%1/folder%2").arg(path).arg(folder);
-        QDir().mkpath(inner);
-        for (int i = 0; i < FILES_PER_FOLDER; ++i)
-        {
-            QFile file(QString("%1/file%2.%3").arg(inner).arg(i).arg(i % 10 == 0 ? "srec" : "txt"));
-            open(file);
-        }
-    }
-    return path;
-}
-
-bool isFirmware(QFileInfo const& info)
-{
-    return !info.isDir() && info.suffix().compare(SrecFileSuffix, Qt::CaseInsensitive) == 0;
-}
-
-int const FIRMWARE_FILES = FOLDERS * FILES_PER_FOLDER / 10;
-
-class scanner_t : public fileScanner_t
-{
-public:
-    ~scanner_t() override { stopScan(); }
-
-protected:
-    bool filter(QFileInfo const& info) override
-    {
-        if (isFirmware(info))
-            postFile(new scanFile_t(info));
-        return true;
-    }
-};
-
 void scanDrive(benchmark::State& state)
 {
-    QString const path = drive();
-    scanner_t scanner;
-    scanner.addPath(path);
-    QEventLoop loop;
-    QObject::connect(&scanner, &fileScanner_t::scanFinished, &loop, &QEventLoop::quit);
+    melvox_bench::driveScan_t scan(drive(FILES));
     for (auto _ : state)
     {
-        scanner.startScan();
-        loop.exec();
-        int found = 0;
-        while (std::unique_ptr<scanFile_t> file{scanner.takeScanFile()})
-            ++found;
-        if (found != FIRMWARE_FILES)
+        if (scan.run() != FIRMWARE_FILES)
             state.SkipWithError("not all files were found");
     }
 }
 
 void iterateDrive(benchmark::State& state)
 {
-    QString const path = drive();
+    QString const path = drive(FILES);
     for (auto _ : state)
     {
-        int found = 0;
-        QDirIterator entries(path, QDir::AllEntries | QDir::NoDotAndDotDot, QDirIterator::Subdirectories);
-        while (entries.hasNext())
-        {
-            entries.next();
-            found += isFirmware(entries.fileInfo());
-        }
-        if (found != FIRMWARE_FILES)
+        if (melvox_bench::listDrive(path) != FIRMWARE_FILES)
             state.SkipWithError("not all files were found");
     }
 }
 
 QString profileFile()
 {
-    static QString path;
-    if (!path.isEmpty())
-        return path;
-    path = place("profile.melvox");
-    QFile file(path);
-    open(file);
-    file.write(QByteArray(int(PROFILE_SIZE), 'p'));
+    QString const path = melvox_bench::place("profile.melvox");
+    if (!QFile::exists(path))
+        melvox_bench::writeFile(path, QByteArray(int(PROFILE_SIZE), 'p'));
     return path;
 }
 
@@ -235,8 +127,6 @@ public:
     melvox_link::localLinkPair_t pair;
 
 private:
-    static qint64 held() { return qint64(mallinfo2().uordblks); }
-
     void answer(QString const& group, QVariant const& value)
     {
         pair.receiverEnd()->send({melvox_link::message_t::REPORT, group, value});
@@ -252,9 +142,9 @@ private:
             return;
         ++m_blocks;
         if (m_blocks == WARM_BLOCKS)
-            m_start = held();
+            m_start = melvox_bench::heldBytes();
         if (m_blocks > WARM_BLOCKS)
-            m_most = qMax(m_most, held() - m_start);
+            m_most = qMax(m_most, melvox_bench::heldBytes() - m_start);
         answer("uploadResult", 0);
     }
 

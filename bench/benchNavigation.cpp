@@ -40,31 +40,6 @@ char const* const LABELS[] = {
     "heightErrorLabel",  "velocityNorthLabel", "velocityEastLabel", "velocityUpLabel",
 };
 
-/** Two summaries with another value in every field: a label that has its text already does nothing. */
-QVariantMap summary(bool other)
-{
-    double const more = other ? 0.25 : 0.0;
-    return {{"valid", true},
-            {"gpsWeek", other ? 2400 : 2399},
-            {"gpsTime", 345618.0 + (other ? 1 : 0)},
-            {"navValid", other ? 0 : 1},
-            {"datum", other ? 0 : 1},
-            {"geoid", other ? 0 : 1},
-            {"navMode", other ? 7 : 2},
-            {"navSource", other ? 8 : 9},
-            {"stationId", other ? 12 : 446},
-            {"failureCode", other ? 6 : 1},
-            {"setDeltaNorth", 0.012 + more},
-            {"setDeltaEast", -0.034 + more},
-            {"setDeltaUp", 0.142 + more},
-            {"latError", 0.0312 + more},
-            {"lonError", 0.0287 + more},
-            {"heightError", 0.0641 + more},
-            {"velocityNorth", 1.2345 + more},
-            {"velocityEast", -0.4321 + more},
-            {"velocityUp", 0.0101 + more}};
-}
-
 QList<QLabel*> labels(QWidget& page)
 {
     QList<QLabel*> labels;
@@ -83,7 +58,7 @@ QStringList texts(QList<QLabel*> const& labels)
 
 void report(benchmark::State& state, melvox_bench::receiver_t& receiver)
 {
-    QVariantMap const summaries[] = {summary(false), summary(true)};
+    QVariantMap const summaries[] = {melvox_bench::navigationSummary(false), melvox_bench::navigationSummary(true)};
     bool other = false;
     for (auto _ : state)
     {
@@ -110,7 +85,7 @@ void emitAndSetTexts(benchmark::State& state)
     QStringList shown[2];
     for (bool const other : {false, true})
     {
-        receiver.link.report("extendedNavInfo", summary(other));
+        receiver.link.report("extendedNavInfo", melvox_bench::navigationSummary(other));
         shown[other] = texts(all);
     }
     brel_common_qt::remoteMelvoxDevice_t* const device = receiver.device.get();

@@ -29,38 +29,9 @@ typedef bareDialog_t<Ui_melvoxUiDtmWarnDialog> bareDtmWarn_t;
 typedef bareDialog_t<Ui_melvoxUiPhysicalPortConfigDialog> barePhysical_t;
 typedef bareDialog_t<Ui_melvoxUiVirtualPortConfigDialog> bareVirtual_t;
 
-/** So many messages are put out on COM2 and COM3, and the page shows one of these ports; the display is on COM1. */
-struct outputs_t
-{
-    explicit outputs_t(int messages) : page(receiver.device.get()), combo(page.findChild<QComboBox*>("portsCombo"))
-    {
-        receiver.link.report("activePort", 0);
-        for (int port : {1, 2})
-        {
-            for (int i = 0; i < messages; ++i)
-                report(port, i, 1.0 + i % 3);
-        }
-        combo->setCurrentIndex(1);
-        page.show();
-        QCoreApplication::processEvents();
-    }
-
-    void report(int port, int message, double interval)
-    {
-        receiver.link.report("output", QVariantMap{{"port", port},
-                                                   {"message", QString("MSG%1").arg(message, 4, 10, QChar('0'))},
-                                                   {"method", 1},
-                                                   {"interval", interval}});
-    }
-
-    melvox_bench::receiver_t receiver;
-    melvoxUiOutputMessages_t page;
-    QComboBox* combo;
-};
-
 void selectPort(benchmark::State& state)
 {
-    outputs_t outputs(int(state.range(0)));
+    melvox_bench::outputs_t outputs(int(state.range(0)));
     int index = 1;
     for (auto _ : state)
     {
@@ -73,7 +44,7 @@ void selectPort(benchmark::State& state)
 void reportOutputs(benchmark::State& state)
 {
     int const messages = int(state.range(0));
-    outputs_t outputs(messages);
+    melvox_bench::outputs_t outputs(messages);
     double interval = 1.0;
     for (auto _ : state)
     {

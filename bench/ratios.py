@@ -1,4 +1,4 @@
-"""Runs benchmark programs and prints medians as ratios: ratios.py REPETITIONS PROGRAM...
+"""Runs benchmark programs and prints medians as ratios: ratios.py [--write] REPETITIONS PROGRAM...
 
 A measurement "a/b" is held against "a/b/bare"; one named "a/b/1000" with a smaller twin "a/b/10" is also shown per row.
 Where other threads or programs do the work, the name ends in "/real_time" and the clock on the wall counts.
@@ -7,7 +7,11 @@ import json
 import subprocess
 import sys
 
+import document
+
 LIMITS = {"buildPage": 1.25, "report": 2.0, "scanSrecord": 0.1, "scanDrive": 1.5}
+MEDIAN_PAGE_LIMIT = 1.15
+ROW_LIMIT = 1.3
 HELD_LIMIT = 64  # KiB, whatever the size of the file
 WALL = "/real_time"
 MICROSECONDS = {"ns": 1e-3, "us": 1, "ms": 1e3, "s": 1e6}
@@ -27,12 +31,12 @@ def medians(program, repetitions, held):
             yield name, time * MICROSECONDS[run["time_unit"]]
 
 
-def main():
-    times = {}
-    held = {}
-    for program in sys.argv[2:]:
-        times.update(medians(program, int(sys.argv[1]), held))
-    print(f"{'measurement':44} {'us':>10} {'bare, us':>10} {'ratio':>7} {'at most':>8}")
+def number(value):
+    return f"{value:.1f}" if value != "" else ""
+
+
+def against_bare(times):
+    """Rows of what has a bare twin, and the ratio of the median page."""
     built = []
     for name, time in times.items():
         bare = times.get(name + "/bare")
@@ -41,17 +45,40 @@ def main():
         kind = name.split("/")[0]
         if kind == "buildPage":
             built.append(time / bare)
-        print(f"{name:44} {time:10.1f} {bare:10.1f} {time / bare:7.2f} {LIMITS.get(kind, ''):>8}")
+        yield name, time, bare, time / bare, LIMITS.get(kind, "")
     if built:
-        built.sort()
-        print(f"{'buildPage, the median page':44} {'':10} {'':10} {built[len(built) // 2]:7.2f} {1.15:>8}")
+        yield "buildPage, the median page", "", "", sorted(built)[len(built) // 2], MEDIAN_PAGE_LIMIT
+
+
+def against_ten(times):
+    """Rows of what is done for many rows, each against one of ten."""
     for name, time in times.items():
         base, _, rows = name.rpartition("/")
         if rows.isdigit() and rows != "10" and f"{base}/10" in times:
-            per_row = (time / int(rows)) / (times[f"{base}/10"] / 10)
-            print(f"{name + ', per row against 10':44} {time:10.1f} {'':10} {per_row:7.2f} {1.3:>8}")
+            ratio = (time / int(rows)) / (times[f"{base}/10"] / 10)
+            yield f"{name}, per row against 10", time, "", ratio, ROW_LIMIT
+
+
+def table(rows, held):
+    yield f"| {'measurement':44} | {'us':>10} | {'bare, us':>10} | {'ratio':>6} | {'at most':>7} |"
+    yield f"| {'-' * 44} | {'-' * 9}: | {'-' * 9}: | {'-' * 5}: | {'-' * 6}: |"
+    for name, time, bare, ratio, limit in rows:
+        shown = f"**{ratio:.2f}**" if limit and ratio > limit else f"{ratio:.2f}"
+        yield f"| {name:44} | {number(time):>10} | {number(bare):>10} | {shown:>6} | {limit:>7} |"
     for name, size in held.items():
-        print(f"{name + ', KiB held at most':44} {size:10.1f} {'':10} {'':7} {HELD_LIMIT:>8}")
+        yield f"| {name + ', KiB held at most':44} | {size:10.1f} | {'':10} | {'':6} | {HELD_LIMIT:>7} |"
+
+
+def main():
+    words = [word for word in sys.argv[1:] if word != "--write"]
+    times = {}
+    held = {}
+    for program in words[1:]:
+        times.update(medians(program, int(words[0]), held))
+    text = "\n".join(table([*against_bare(times), *against_ten(times)], held))
+    print(text)
+    if "--write" in sys.argv:
+        document.write("ratios", text)
 
 
 if __name__ == "__main__":

@@ -7,7 +7,8 @@ say() { printf '%s\n' "$*"; }
 fail() { printf '%s: %s\n' "$(basename "$0")" "$*" >&2; exit 1; }
 
 packages_build="g++ cmake ninja-build ccache pkg-config libgeographiclib-dev libgl-dev fonts-dejavu-core"
-packages_test="python3 python3-nmea2 srecord binutils abigail-tools dpkg-dev make"
+packages_test="python3 python3-nmea2 srecord binutils abigail-tools dpkg-dev make valgrind"
+packages_bench="libbenchmark-dev python3 srecord valgrind"
 packages_qt5="qtbase5-dev libqt5serialport5-dev"
 packages_test_qt5="qttools5-dev qttools5-dev-tools"
 packages_qt6="qt6-base-dev qt6-serialport-dev"
