@@ -71,6 +71,8 @@ def table(rows, held):
 
 def main():
     words = [word for word in sys.argv[1:] if word != "--write"]
+    if int(words[0]) < 2:
+        sys.exit("ratios: a median takes at least 2 repetitions")
     times = {}
     held = {}
     for program in words[1:]:
