@@ -25,6 +25,8 @@ void showDialog(QDialog* dialog)
 
 void showOnce(QDialog* dialog)
 {
+    // For a host that gives it back unfinished: nobody else knows of it.
+    dialog->setAttribute(Qt::WA_DeleteOnClose);
     QObject::connect(dialog, SIGNAL(finished(int)), dialog, SLOT(deleteLater()));
     showDialog(dialog);
 }

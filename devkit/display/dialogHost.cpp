@@ -136,6 +136,8 @@ void displayDialogHost_t::give(entry_t const& entry)
     dialog->disconnect(this);
     if (!entry.view)
         m_cards->remove(dialog);
+    // In two steps, or the toolkit makes a window for it at once, which would come along when it is shown here again.
+    dialog->setParent(entry.owner, Qt::Widget);
     dialog->setParent(entry.owner, entry.flags);
     dialog->setAttribute(Qt::WA_Moved, entry.wasMoved);
 }
@@ -244,9 +246,12 @@ void displayDialogHost_t::giveAllBack()
 {
     while (!m_entries.isEmpty())
     {
-        if (m_entries.last().dialog)
-            m_entries.last().dialog->hide();
+        QPointer<QDialog> const dialog = m_entries.last().dialog;
+        if (dialog)
+            dialog->hide();
         drop(m_entries.size() - 1);
+        if (dialog && dialog->testAttribute(Qt::WA_DeleteOnClose))
+            dialog->deleteLater();
     }
 }
 

@@ -1,3 +1,4 @@
+#include "brel_common_qt_gui/kitDialog.h"
 #include "display/cardLayer.h"
 #include "display/dialogHost.h"
 #include "support/test.h"
@@ -104,6 +105,32 @@ private slots:
         QVERIFY(f.showsPage());
         QVERIFY(!f.host.currentDialog());
         delete dialog;
+    }
+
+    void makesNoWindowForADialogThatItGivesBack()
+    {
+        fixture_t f;
+        QDialog* const dialog = createDialog("Base Position", f.page);
+        f.host.showDialog(dialog);
+        melvox_test::settle();
+        dialog->reject();
+        QVERIFY(!dialog->windowHandle());
+        f.host.showDialog(dialog);
+        QVERIFY(dialog->isVisible());
+    }
+
+    void whatIsShownOnceGoesWithTheHost()
+    {
+        QPointer<QMessageBox> const box = createBox();
+        {
+            fixture_t f;
+            dialogPage_t::setHost(&f.host);
+            melvox_kit::showOnce(box);
+            dialogPage_t::setHost(nullptr);
+            QVERIFY(box->isVisible());
+        }
+        melvox_test::settle();
+        QVERIFY(!box);
     }
 
     void backRejects()
