@@ -91,6 +91,34 @@ void melvoxUiFirmwareUpdate_t::statusItem_t::setStatus(melvoxFirmwareUpdateStatu
     setText(STATUS_COLUMN, melvoxFirmwareUpdateStatusString(status));
 }
 
+orphanedLock_t::orphanedLock_t(remoteMelvoxDevice_t* device) : QObject(device->port()), m_port(device->port())
+{
+    connect(m_port, SIGNAL(lockStateUpdated(brel_common_qt::portLock_t)),
+            SLOT(updatePortLockState(brel_common_qt::portLock_t)));
+    connect(device, SIGNAL(firmwareUpdateStateUpdated(brel_common_qt::firmwareUpdateState_t, std::string const&)),
+            SLOT(updateFirmwareUpdateState(brel_common_qt::firmwareUpdateState_t)));
+}
+
+orphanedLock_t::~orphanedLock_t()
+{
+}
+
+void orphanedLock_t::updatePortLockState(portLock_t state)
+{
+    if (state != PORT_LOCK_PLUGIN)
+        deleteLater();
+}
+
+void orphanedLock_t::updateFirmwareUpdateState(firmwareUpdateState_t state)
+{
+    if (state != FIRMWARE_UPDATE_COMPLETE && state != FIRMWARE_UPDATE_ERROR)
+        return;
+    // Before it is deleted, the outcome may be told again.
+    disconnect(sender(), 0, this, 0);
+    m_port->setLockState(PORT_LOCK_NONE);
+    deleteLater();
+}
+
 melvoxUiFirmwareUpdate_t::privateData_t::privateData_t(remoteMelvoxDevice_t* device_)
     : device(device_), versionDisplay(nullptr), selector(nullptr), package(nullptr), disabled(false),
       lockPending(false), productCode(PRODUCT_CODE), startButton(nullptr), toggleButton(nullptr),
@@ -131,6 +159,11 @@ melvoxUiFirmwareUpdate_t::melvoxUiFirmwareUpdate_t(remoteMelvoxDevice_t* device)
 
 melvoxUiFirmwareUpdate_t::~melvoxUiFirmwareUpdate_t()
 {
+    // Nobody else would give the lock back.
+    if (m_data->lockPending && m_data->device->port()->lockState() == PORT_LOCK_PLUGIN)
+        new orphanedLock_t(m_data->device);
+    else if (m_data->lockPending)
+        m_data->device->port()->setLockState(PORT_LOCK_NONE);
     delete m_data;
 }
 
@@ -354,7 +387,8 @@ void melvoxUiFirmwareUpdate_t::endUpdate()
     setPercent(0);
     m_data->lockPending = false;
     m_data->device->port()->setLockState(PORT_LOCK_NONE);
-    m_data->ui.progressButtonBox->button(QDialogButtonBox::Ok)->setEnabled(true);
+    // Updates of others are told too; they do not lead out of the disabled mode.
+    m_data->ui.progressButtonBox->button(QDialogButtonBox::Ok)->setEnabled(!m_data->disabled);
 }
 
 void melvoxUiFirmwareUpdate_t::updateFirmwareUpdateState(firmwareUpdateState_t state, std::string const& desc)

@@ -3,6 +3,8 @@
 
 #include "melvox_ui/melvoxUiFirmwareUpdate.h"
 
+#include "brel_common_qt/remoteDevice.h"
+
 #include "ui_melvoxUiFirmwareUpdate.h"
 
 #include <QTreeWidgetItem>
@@ -40,6 +42,23 @@ public:
     void setStatus(brel_common_qt::melvoxFirmwareUpdateStatus_t status);
 
     brel_common_qt::melvoxFirmwareComponent_t component;
+};
+
+/** Holds the lock in place of a page that was destroyed while its update runs, and gives it back with the outcome. */
+class orphanedLock_t : public QObject
+{
+    Q_OBJECT
+
+public:
+    explicit orphanedLock_t(brel_common_qt::remoteMelvoxDevice_t* device);
+    ~orphanedLock_t();
+
+private slots:
+    void updatePortLockState(brel_common_qt::portLock_t state);
+    void updateFirmwareUpdateState(brel_common_qt::firmwareUpdateState_t state);
+
+private:
+    brel_common_qt::remotePort_t* m_port;
 };
 
 struct MELVOX_UI_HIDDEN melvoxUiFirmwareUpdate_t::privateData_t

@@ -100,6 +100,11 @@ private slots:
     void rebootsHoweverTheOutcomeIsClosed();
     void okGoesBackToThePackageWithEverythingKept();
     void survivesBeingDestroyedDuringAnUpdate();
+    void anOutcomeDoesNotLeadOutOfTheDisabledMode();
+    void givesTheLockBackWhenItIsDestroyedBeforeItsUpdateStarts();
+    void leavesTheLockToItsUpdateUntilTheOutcome_data();
+    void leavesTheLockToItsUpdateUntilTheOutcome();
+    void releasesNoLockThatIsGoneBeforeTheOutcome();
 };
 
 void tst_melvoxUiFirmwareUpdate::setUp()
@@ -753,6 +758,62 @@ void tst_melvoxUiFirmwareUpdate::survivesBeingDestroyedDuringAnUpdate()
     page = 0;
     reportState(2, "done");
     QVERIFY(!openBox());
+}
+
+// Updates that another display runs are told to this one too.
+void tst_melvoxUiFirmwareUpdate::anOutcomeDoesNotLeadOutOfTheDisabledMode()
+{
+    page = new melvoxUiFirmwareUpdate_t(device);
+    reportState(2, "done");
+    reportedErrors();
+    QVERIFY(!okEnabled());
+    QCOMPARE(shownPage(), QString("progressPage"));
+}
+
+void tst_melvoxUiFirmwareUpdate::givesTheLockBackWhenItIsDestroyedBeforeItsUpdateStarts()
+{
+    openPage();
+    choose(combined());
+    tap(page, "Start Update");
+    receiver->clear();
+    delete page;
+    page = 0;
+    QCOMPARE(receiver->commands(), QStringList("portLock 0"));
+}
+
+void tst_melvoxUiFirmwareUpdate::leavesTheLockToItsUpdateUntilTheOutcome_data()
+{
+    QTest::addColumn<int>("state");
+    QTest::newRow("failed") << 0;
+    QTest::newRow("complete") << 2;
+}
+
+void tst_melvoxUiFirmwareUpdate::leavesTheLockToItsUpdateUntilTheOutcome()
+{
+    QFETCH(int, state);
+    startUpdate();
+    receiver->clear();
+    delete page;
+    page = 0;
+    reportState(1, "writing");
+    QVERIFY(receiver->commands().isEmpty());
+    reportState(state, "over");
+    reportState(state, "over");
+    melvox_test::settle();
+    reportState(state, "over");
+    QCOMPARE(receiver->commands(), QStringList("portLock 0"));
+}
+
+void tst_melvoxUiFirmwareUpdate::releasesNoLockThatIsGoneBeforeTheOutcome()
+{
+    startUpdate();
+    receiver->clear();
+    delete page;
+    page = 0;
+    receiver->report("portLock", 0);
+    melvox_test::settle();
+    reportState(2, "done");
+    QVERIFY(receiver->commands().isEmpty());
 }
 
 QTEST_MAIN(tst_melvoxUiFirmwareUpdate)
