@@ -18,8 +18,7 @@ int const NUM_NAMES = int(sizeof NAMES / sizeof *NAMES);
 
 char const* const MAGIC = "MELVOX";
 
-std::size_t const HEAD = 4;               // characters before the address: S, type, count
-std::size_t const LONGEST_LINE = 4 + 510; // characters, without the blanks that may follow
+std::size_t const HEAD = 4; // characters before the address: S, type, count
 std::size_t const LONGEST_CARRY = 64 * 1024;
 unsigned int const BYTES_PER_RECORD = 32;
 
