@@ -39,9 +39,13 @@ extern "C" int LLVMFuzzerTestOneInput(std::uint8_t const* data, std::size_t size
         return 0;
     guiSettings_t::get().setLatLonFormat(brel_common_qt::latLonFormat_t(data[0] % 3));
     QStringList const lines = QString::fromUtf8(reinterpret_cast<char const*>(data + 1), int(size) - 1).split('\n');
-    latitudeEdit_t latitude;
-    longitudeEdit_t longitude;
-    distanceEdit_t distance;
+    // Made once: that costs more than all the rest. What was typed before is put away.
+    static latitudeEdit_t latitude;
+    static longitudeEdit_t longitude;
+    static distanceEdit_t distance;
+    latitude.setLatitude(0);
+    longitude.setLongitude(0);
+    distance.setDistance(0, brel_common_qt::DISTANCE_UNIT_METER);
     type(&latitude, lines);
     type(&longitude, lines);
     type(&distance, lines);
