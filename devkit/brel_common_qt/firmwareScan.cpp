@@ -168,7 +168,7 @@ void melvoxFirmwareScanDir(QString const& path, QStringList& files, QList<melvox
         if (!readParts(file, 1, reader, reason))
             logRefused(file, reason);
         else if (reader.parts().size() == 1)
-            found << qMakePair(file, recordsOf(reader.parts()).first());
+            found << qMakePair(file, recordsOf(reader.parts()).at(0));
     }
     isOther_t const isOther = {productCode};
     std::stable_sort(found.begin(), found.end(), isOther);

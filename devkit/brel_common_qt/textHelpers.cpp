@@ -134,6 +134,7 @@ QString withSymbols(QStringList const& parts, axis_t const& axis, bool zeroPad)
     for (int i = 0; i < parts.size(); ++i)
     {
         QString const text = zeroPad ? padded(parts.at(i), i == 0 ? axis.degreeDigits : 2) : unpadded(parts.at(i));
+        // NOLINTNEXTLINE(clang-analyzer-core.CallAndMessage): an angle has three parts at most
         texts << text + QString::fromUtf8(symbols[i]);
     }
     return texts.join(QLatin1String(" "));

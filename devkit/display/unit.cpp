@@ -114,8 +114,11 @@ void unit_t::setLinkKind(melvox_kit::linkKind_t kind)
 template <typename link_t> melvox_link::link_t* unit_t::keepStream(std::unique_ptr<link_t> link)
 {
     link_t* stream = link.get();
+    // The stream lives on in m_stream; cppcheck does not follow the move.
+    // cppcheck-suppress danglingLifetime
     m_startStream = [stream]() { stream->start(); };
     m_stream = std::move(link);
+    // cppcheck-suppress returnDanglingLifetime
     return stream;
 }
 

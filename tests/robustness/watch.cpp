@@ -119,7 +119,8 @@ void watch_t::takeReport(message_t const& message)
     if (message.group == "portLock" && isLock(message.value))
     {
         m_lockGranted = message.value.toInt();
-        if (m_lockGranted == 0)
+        // Refused, or another one than was asked for, which nobody here holds.
+        if (m_lockGranted != m_wantedLock)
             m_wantedLock = 0;
     }
     else if (message.group == "uploadResult")
@@ -165,7 +166,7 @@ void watch_t::countBlocks(message_t const& message)
     {
         if (++m_blocksInFlight > 1)
             setFault("blocks: more than one block of a profile under way");
-        if (m_wantedLock == 0)
+        if (m_lockGranted == 0)
             setFault("unlocked: a block of a profile is sent without the lock");
         if (message.value.toByteArray().size() > 1024)
             setFault("blocks: a block is too long");
