@@ -387,8 +387,7 @@ void melvoxUiFirmwareUpdate_t::endUpdate()
     setPercent(0);
     m_data->lockPending = false;
     m_data->device->port()->setLockState(PORT_LOCK_NONE);
-    // Updates of others are told too; they do not lead out of the disabled mode.
-    m_data->ui.progressButtonBox->button(QDialogButtonBox::Ok)->setEnabled(!m_data->disabled);
+    m_data->ui.progressButtonBox->button(QDialogButtonBox::Ok)->setEnabled(true);
 }
 
 void melvoxUiFirmwareUpdate_t::updateFirmwareUpdateState(firmwareUpdateState_t state, std::string const& desc)

@@ -100,7 +100,6 @@ private slots:
     void rebootsHoweverTheOutcomeIsClosed();
     void okGoesBackToThePackageWithEverythingKept();
     void survivesBeingDestroyedDuringAnUpdate();
-    void anOutcomeDoesNotLeadOutOfTheDisabledMode();
     void givesTheLockBackWhenItIsDestroyedBeforeItsUpdateStarts();
     void leavesTheLockToItsUpdateUntilTheOutcome_data();
     void leavesTheLockToItsUpdateUntilTheOutcome();
@@ -761,15 +760,6 @@ void tst_melvoxUiFirmwareUpdate::survivesBeingDestroyedDuringAnUpdate()
 }
 
 // Updates that another display runs are told to this one too.
-void tst_melvoxUiFirmwareUpdate::anOutcomeDoesNotLeadOutOfTheDisabledMode()
-{
-    page = new melvoxUiFirmwareUpdate_t(device);
-    reportState(2, "done");
-    reportedErrors();
-    QVERIFY(!okEnabled());
-    QCOMPARE(shownPage(), QString("progressPage"));
-}
-
 void tst_melvoxUiFirmwareUpdate::givesTheLockBackWhenItIsDestroyedBeforeItsUpdateStarts()
 {
     openPage();
