@@ -1101,7 +1101,7 @@ Bleibt sie unverändert, bitte unmittelbar mit der derzeitigen Baudrate %1 neu v
     </message>
     <message>
         <source>Resync Count</source>
-        <translation>Neusynchronisierungen</translation>
+        <translation>Resyncs</translation>
     </message>
 </context>
 <context>

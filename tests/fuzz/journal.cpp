@@ -13,7 +13,8 @@ extern "C" int LLVMFuzzerTestOneInput(std::uint8_t const* data, std::size_t size
     static QTemporaryDir const folder;
     static QString const path = folder.filePath("journal.jsonl");
     QFile file(path);
-    if (!file.open(QIODevice::WriteOnly) || file.write(reinterpret_cast<char const*>(data), qint64(size)) != qint64(size))
+    if (!file.open(QIODevice::WriteOnly) ||
+        file.write(reinterpret_cast<char const*>(data), qint64(size)) != qint64(size))
         std::abort();
     file.close();
     melvox_link::journal_t journal;
