@@ -67,7 +67,10 @@ bool readNumber(QLineEdit const* edit, unsigned int& value)
 
 void setChoice(QComboBox* combo, int index)
 {
-    combo->setCurrentIndex(index >= 0 && index < combo->count() ? index : -1);
+    int const wanted = index >= 0 && index < combo->count() ? index : -1;
+    // Qt 6 tells of a change to no item though there was none before: whoever chooses again when told would never end.
+    if (wanted != combo->currentIndex())
+        combo->setCurrentIndex(wanted);
 }
 
 QPushButton* addActionButton(QDialogButtonBox* box, QString const& text, QObject* receiver, char const* slot)

@@ -88,6 +88,7 @@ private slots:
     void writesTheSwitchTimeInTwoDigitsEach();
     void disablesBothPolicyControlsUntilThePolicyIsKnown();
     void enablesTheTimeOnlyForTheAutomaticPolicy();
+    void aPolicyOfAnUnknownModeLeavesNoChoiceAndIsNotSent();
     void keepsTheTimeWhenTheReceiverGoesManual();
     void fillsEachEditorFromTheFirstReportOnly();
     void resetBringsEveryEditorBackToTheReceiver();
@@ -660,6 +661,18 @@ void tst_melvoxUiCorrectionsReceiver::enablesTheTimeOnlyForTheAutomaticPolicy()
     QCOMPARE(labelText(&page, "mrvAlmSwitchPolicyLabel"), QString("Automatic"));
     choose(&page, "mrvAlmSwitchPolicyCombo", "Automatic");
     QVERIFY(isEnabled(&page, "mrvAlmAutoSwitchTimeLineEdit"));
+}
+
+void tst_melvoxUiCorrectionsReceiver::aPolicyOfAnUnknownModeLeavesNoChoiceAndIsNotSent()
+{
+    melvoxUiCorrectionsReceiver_t page(device);
+    page.show();
+    reportPolicy(1972710843, 198897642, 5);
+    QCOMPARE(labelText(&page, "mrvAlmSwitchPolicyLabel"), QString());
+    QCOMPARE(chosen(&page, "mrvAlmSwitchPolicyCombo"), QString());
+    QVERIFY(!isEnabled(&page, "mrvAlmAutoSwitchTimeLineEdit"));
+    page.submit();
+    QCOMPARE(receiver->commands().filter("starfireAlmSwitchPolicy"), QStringList());
 }
 
 void tst_melvoxUiCorrectionsReceiver::keepsTheTimeWhenTheReceiverGoesManual()
