@@ -7,6 +7,10 @@ class QDialogButtonBox;
 namespace brel_common_qt_gui
 {
 
+/** Lets Tab come by all buttons of the box, in the order in which the style shows them. Once for a box is enough; again
+ *  does nothing. */
+void keepTabOrder(QDialogButtonBox* box);
+
 /** Makes the box's buttons large enough for a finger; buttons added later see to themselves. */
 void enlargeButtons(QDialogButtonBox* box);
 

@@ -1,5 +1,7 @@
 #include "support/pageSupport.h"
 
+#include "support/dialogButtons.h"
+
 #include "brel_common_qt/textHelpers.h"
 
 #include <QComboBox>
@@ -77,6 +79,7 @@ QPushButton* addActionButton(QDialogButtonBox* box, QString const& text, QObject
 {
     QPushButton* const button = box->addButton(text, QDialogButtonBox::ActionRole);
     button->setMinimumHeight(TOUCH_HEIGHT);
+    keepTabOrder(box);
     if (receiver)
         QObject::connect(button, SIGNAL(clicked()), receiver, slot);
     return button;

@@ -3,6 +3,8 @@
 
 #include <QDialog>
 #include <QDialogButtonBox>
+#include <QHBoxLayout>
+#include <QLineEdit>
 #include <QPushButton>
 
 using namespace brel_common_qt_gui;
@@ -32,6 +34,7 @@ private slots:
     void cancelRejectsTheDialog();
     void buttonsAreLargeEnoughForAFinger();
     void enlargesAddedButtonsToo();
+    void tabComesByEveryButtonAsTheyStand();
 };
 
 void tst_dialogButtons::okRunsTheSlot()
@@ -65,6 +68,28 @@ void tst_dialogButtons::enlargesAddedButtonsToo()
     QCOMPARE(box.buttons().size(), 3);
     for (QAbstractButton const* button : box.buttons())
         QVERIFY(button->minimumHeight() >= 40);
+}
+
+void tst_dialogButtons::tabComesByEveryButtonAsTheyStand()
+{
+    QWidget window;
+    QHBoxLayout layout(&window);
+    layout.addWidget(new QLineEdit);
+    QDialogButtonBox* const box = new QDialogButtonBox(QDialogButtonBox::Apply | QDialogButtonBox::Reset);
+    layout.addWidget(box);
+    box->addButton("More", QDialogButtonBox::ActionRole);
+    enlargeButtons(box);
+    window.show();
+    QWidget* before = box;
+    for (int i = 0; i < box->layout()->count(); ++i)
+    {
+        QWidget* const button = box->layout()->itemAt(i)->widget();
+        if (!button)
+            continue;
+        QCOMPARE(before->nextInFocusChain(), button);
+        before = button;
+    }
+    QVERIFY(before != box);
 }
 
 QTEST_MAIN(tst_dialogButtons)
