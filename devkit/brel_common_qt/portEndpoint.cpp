@@ -163,6 +163,12 @@ void portEndpoint_t::setLine(serialPortConfig_t const& config, bool localOnly)
     melvox_link::line_t line = melvox_link::line_t();
     if (!m_link || !m_link->line(line))
         return;
+    // A serial device takes it for hanging up, and no receiver would follow.
+    if (config.baud == 0)
+    {
+        qWarning("The line stays at %u baud: 0 is no rate, choose another one", line.baud);
+        return;
+    }
     if (!localOnly)
     {
         melvoxSerialPortConfig_t const receiverSide = {config.baud, config.charSize, config.parity, config.stopBits};

@@ -23,7 +23,6 @@ namespace
 int const EXIT_WRONG_USE = 2;
 unsigned int const FIRST_SERIAL_PORT = 0;
 unsigned int const NUM_SERIAL_PORTS = 4;
-unsigned int const FIRST_VIRTUAL_PORT = NUM_PHYSICAL_PORTS;
 
 QString tr(char const* text)
 {

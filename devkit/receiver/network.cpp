@@ -10,8 +10,6 @@ namespace
 int const CUT_AFTER = 500;
 int const JOIN_AFTER = 3500;
 
-unsigned int const FIRST_VIRTUAL_PORT = NUM_PHYSICAL_PORTS;
-
 } // namespace
 
 network_t::network_t(receiver_t& owner) : behaviour_t(owner), m_cable(cable()), m_cutAt(-1), m_joinAt(-1)

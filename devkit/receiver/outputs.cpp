@@ -39,9 +39,7 @@ datumTrigger_t const DATUM_TRIGGERS[] = {
     {"NMEAGGA", "NMEADTM"}, {"NMEAGLL", "NMEADTM"}, {"NMEARMC", "NMEADTM"}, {"NMEAPZLQGGA", "NMEAPZLQDTM"}};
 double const DATUM_INTERVAL = 1.0; // seconds
 
-int const USAGE_INTERVAL = 1000; // milliseconds
-unsigned int const FIRST_USB_PORT = 4;
-unsigned int const FIRST_VIRTUAL_PORT = NUM_PHYSICAL_PORTS;
+int const USAGE_INTERVAL = 1000;         // milliseconds
 double const ETHERNET_CAPACITY = 1.25e6; // bytes per second
 
 outputMessage_t const* findMessage(QString const& name)

@@ -7,7 +7,6 @@ namespace
 {
 
 unsigned int const SLOWEST_GOOD_BAUD = 115200;
-unsigned int const FIRST_USB_PORT = 4;
 
 } // namespace
 

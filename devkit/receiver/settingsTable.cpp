@@ -12,7 +12,6 @@ double const HALF_TURN = std::acos(-1.0);
 double const ROUNDING = 1e-9; // of positions typed in degrees
 
 unsigned int const COM1 = 0;
-unsigned int const FIRST_VIRTUAL_PORT = NUM_PHYSICAL_PORTS;
 unsigned int const LOWEST_RTCM_BASE_MODE = 1;
 int const RTCM_23 = 1;
 unsigned int const LONGEST_SWITCH_DELAY = 24 * 60; // minutes

@@ -44,7 +44,9 @@ settings_t startSettings();
 QStringList const& antennaNames();
 
 unsigned int const NUM_PORTS = 14;
+unsigned int const FIRST_USB_PORT = 4;
 unsigned int const NUM_PHYSICAL_PORTS = 6;
+unsigned int const FIRST_VIRTUAL_PORT = NUM_PHYSICAL_PORTS;
 
 } // namespace melvox_receiver
 

@@ -5,13 +5,6 @@
 namespace melvox_scenarios
 {
 
-namespace
-{
-
-unsigned int const FIRST_USB_PORT = 4;
-
-} // namespace
-
 QStringList linkKinds()
 {
     return {"serial", "tcp", "other"};
@@ -19,9 +12,9 @@ QStringList linkKinds()
 
 QString usualLinkKind(unsigned int port)
 {
-    if (port < FIRST_USB_PORT)
+    if (port < melvox_receiver::FIRST_USB_PORT)
         return "serial";
-    return port < melvox_receiver::NUM_PHYSICAL_PORTS ? "other" : "tcp";
+    return port < melvox_receiver::FIRST_VIRTUAL_PORT ? "other" : "tcp";
 }
 
 QStringList portNames()

@@ -106,7 +106,7 @@ public:
     brel_common_qt::serialPortConfig_t const* serialPortConfig() const;
 
     /** Moves both ends of the line to new settings: the receiver is told first, then this end follows.
-     *  `localOnly` leaves the receiver as it is. Nothing happens while serialPortConfig() is null. */
+     *  `localOnly` leaves the receiver as it is. Nothing happens while serialPortConfig() is null, or for a rate of 0. */
     void configure(brel_common_qt::serialPortConfig_t const& config, bool localOnly);
 
 protected:

@@ -6,6 +6,7 @@
 #include "support/asciiText.h"
 #include "support/pageSupport.h"
 #include "support/qtCompat.h"
+#include "support/treeRows.h"
 
 #include <QPushButton>
 
@@ -303,8 +304,7 @@ melvoxUiOutputMessages_t::item_t* melvoxUiOutputMessages_t::findItem(std::string
 
 melvoxUiOutputMessages_t::item_t* melvoxUiOutputMessages_t::selectedItem() const
 {
-    QList<QTreeWidgetItem*> const selected = m_data->ui.messagesTreeWidget->selectedItems();
-    return selected.isEmpty() ? 0 : static_cast<item_t*>(selected.first());
+    return brel_common_qt_gui::selectedItem<item_t>(m_data->ui.messagesTreeWidget);
 }
 
 void melvoxUiOutputMessages_t::updateSelectedPort()

@@ -4,6 +4,7 @@
 #include "brel_common_qt/textHelpers.h"
 #include "support/pageSupport.h"
 #include "support/qtCompat.h"
+#include "support/treeRows.h"
 
 #include <QHostAddress>
 #include <QPushButton>
@@ -56,12 +57,6 @@ template <typename item_t> item_t* findOrAddItem(QTreeWidget* tree, melvoxPort_t
         tree->addTopLevelItem(item);
     }
     return item;
-}
-
-template <typename item_t> item_t* selectedItem(QTreeWidget* tree)
-{
-    QList<QTreeWidgetItem*> const selected = tree->selectedItems();
-    return selected.isEmpty() ? 0 : static_cast<item_t*>(selected.first());
 }
 
 } // namespace

@@ -1,7 +1,7 @@
 #ifndef MELVOX_UI_SCAN_DIALOG_H
 #define MELVOX_UI_SCAN_DIALOG_H
 
-#include <QTreeWidget>
+#include "support/treeRows.h"
 
 class QDialog;
 class QDialogButtonBox;
@@ -35,13 +35,6 @@ void showScanState(scanDialog_t const& parts);
 
 /** Nothing can be chosen while the scan runs. */
 void showSelection(scanDialog_t const& parts);
-
-/** The first selected item, all of whose kind are item_t; null when there is none. */
-template <typename item_t> item_t* selectedItem(QTreeWidget const* tree)
-{
-    QList<QTreeWidgetItem*> const selected = tree->selectedItems();
-    return selected.isEmpty() ? 0 : static_cast<item_t*>(selected.first());
-}
 
 } // namespace brel_common_qt_gui
 

@@ -50,6 +50,13 @@ private:
 /** Takes these rows away, given in ascending order. No other row becomes selected in the place of one that was. */
 void removeRows(QTreeWidget* tree, QList<int> const& rows);
 
+/** The first selected row, null when there is none. Every top-level row must be a row_t. */
+template <typename row_t> row_t* selectedItem(QTreeWidget const* tree)
+{
+    QList<QTreeWidgetItem*> const selected = tree->selectedItems();
+    return selected.isEmpty() ? nullptr : static_cast<row_t*>(selected.first());
+}
+
 /** The first row of that id, null when there is none. */
 template <typename row_t> row_t* findRow(QTreeWidget const* tree, unsigned int id)
 {

@@ -64,6 +64,8 @@ private slots:
     void holdsSettingsWithinItsLimits();
     void keepsAndTellsTheOldValueWhenItRefuses_data();
     void keepsAndTellsTheOldValueWhenItRefuses();
+    void keepsARateWhenItIsGivenOneThatItDoesNotHave_data();
+    void keepsARateWhenItIsGivenOneThatItDoesNotHave();
     void countsAndTellsOfWhatItCannotRead_data();
     void countsAndTellsOfWhatItCannotRead();
     void cutsWhatItTellsOfLongMessages();
@@ -245,6 +247,23 @@ void tst_receiver::keepsAndTellsTheOldValueWhenItRefuses()
     display->command(group, sent);
     QCOMPARE(display->texts(), QStringList(toText({message_t::REPORT, group, before})));
     QCOMPARE(receiver->setting(group), before);
+    QCOMPARE(receiver->ignoredCount(), 0);
+}
+
+void tst_receiver::keepsARateWhenItIsGivenOneThatItDoesNotHave_data()
+{
+    QTest::addColumn<unsigned int>("baud");
+    QTest::newRow("none") << 0u;
+    QTest::newRow("between two") << 14400u;
+    QTest::newRow("above all") << 460800u;
+}
+
+void tst_receiver::keepsARateWhenItIsGivenOneThatItDoesNotHave()
+{
+    QFETCH(unsigned int, baud);
+    display->command("serialConfig",
+                     QVariantMap{{"port", 2}, {"baud", baud}, {"charSize", 1}, {"parity", 1}, {"stopBits", 1}});
+    QCOMPARE(display->texts(), QStringList("serialConfig baud=38400 charSize=1 parity=0 port=2 stopBits=0"));
     QCOMPARE(receiver->ignoredCount(), 0);
 }
 

@@ -402,6 +402,9 @@ void tst_melvoxUiEthernetConfiguration::hasAWifiPageThatIsNeverShown()
     QCOMPARE(find<QStackedWidget>(&page, "stackedWidget")->indexOf(wifi), 1);
     QCOMPARE(melvox_test::headerTexts(find<QTreeWidget>(wifi, "accessPointsTreeWidget")).join("|"),
              QString("Name|Security|Channel|RSS %|Connected?"));
+    QCOMPARE(find<QGroupBox>(wifi, "wiFiConfigGroup")->title(), QString("WiFi Configuration"));
+    QCOMPARE(find<QGroupBox>(wifi, "accessPointsGroup")->title(), QString("WiFi Access Points"));
+    QCOMPARE(find<QGroupBox>(wifi, "accessPointConfigGroup")->title(), QString("Access Point Configuration"));
     receiver->clear();
     tap(wifi, "Connect");
     tap(wifi, "Disconnect");
@@ -437,6 +440,11 @@ void tst_melvoxUiEthernetConfiguration::keepsItsTexts_data()
     QTest::newRow("gatewayTitleLabel") << "Gateway:";
     QTest::newRow("dns1TitleLabel") << "DNS Server 1:";
     QTest::newRow("dns2TitleLabel") << "DNS Server 2:";
+    QTest::newRow("wiFiStateTitleLabel") << "State:";
+    QTest::newRow("wiFiRoleTitleLabel") << "Role:";
+    QTest::newRow("wiFiBandTitleLabel") << "Band:";
+    QTest::newRow("accessPointSecurityTitleLabel") << "Security:";
+    QTest::newRow("accessPointPasskeyTitleLabel") << "Passkey:";
 }
 
 void tst_melvoxUiEthernetConfiguration::keepsItsTexts()

@@ -171,6 +171,7 @@ private slots:
     void sendsNakAsQuestionMarks();
     void setsBothHalvesOfThePairedCorrections_data();
     void setsBothHalvesOfThePairedCorrections();
+    void leavesTheRowOfTheOtherHalfToTheReceiver();
     void showsASubmittedMessageAsDisabledUntilTheReceiverAnswers();
     // disable
     void disablesTheSelectedMessageAfterAYes();
@@ -195,6 +196,7 @@ private slots:
     void warnsAgainAfterDefaultsUntilTheTickedWarningIsClosed();
     // the settings store
     void keepsTheWarningInTheStore();
+    void asksToBeSavedOnceTheWarningIsAsChosen();
     void leavesTheWarningAloneWhenTheKeyIsMissing();
     void leavesTheWarningAloneWhenTheValueIsNoFlag();
     void turnsTheWarningOnByDefault();
@@ -479,6 +481,7 @@ void tst_melvoxUiOutputMessages::tellsHowAMessageIsPutOut_data()
     QTest::newRow("half a rate") << 1 << 2.0 << "Interval 2.00";
     QTest::newRow("rounded interval, whole rate") << 1 << 0.005 << "Interval 0.01(200)";
     QTest::newRow("rate beyond six digits") << 1 << 0.0000001 << "Interval 0.00(1e+07)";
+    QTest::newRow("no time at all") << 1 << 0.0 << "Interval 0.00(inf)";
     QTest::newRow("unknown method") << 2 << 1.0 << UnknownString;
 }
 
@@ -578,6 +581,8 @@ void tst_melvoxUiOutputMessages::choosesTheReportedRateOfEachModel_data()
                                                 << "1";
     QTest::newRow("custom, two seconds") << "RTCM1" << 2.0 << "Custom Interval"
                                          << "";
+    QTest::newRow("custom, no time at all") << "RTCM1" << 0.0 << "Custom Interval"
+                                            << "";
     QTest::newRow("custom, too many seconds") << "RTCM1" << 1e12 << "Custom Interval"
                                               << "";
 }
@@ -699,7 +704,11 @@ void tst_melvoxUiOutputMessages::refusesToEditWhatCanOnlyBeDisabled()
     while (dtmDialog(&page)->isVisible())
         dtmDialog(&page)->done(0);
     // It can always be disabled, and the selection of another brings the settings back.
-    QVERIFY(buttonEnabled(&page, "Disable"));
+    receiver->clear();
+    tapIn(&page, "messagesButtonBox", "Disable");
+    answer(QMessageBox::Yes);
+    QCOMPARE(receiver->commands(),
+             QStringList(QString("output interval=0 message=%1 method=0 port=1").arg(QTest::currentDataTag())));
     select(&page, "NMEAGSV");
     QVERIFY(isEnabled(&page, "messageSettingsGroup"));
 }
@@ -855,11 +864,11 @@ void tst_melvoxUiOutputMessages::sendsNakAsQuestionMarks()
 {
     melvoxUiOutputMessages_t page(device);
     choosePort(&page);
-    reportOutput(OTHER_PORT, "??", 0, 0.0);
+    reportOutput(OTHER_PORT, "??", 1, 30.0);
     select(&page, "NAK");
-    choose(&page, "methodCombo", "Interval");
     tapIn(&page, "messagesButtonBox", "Apply");
     QCOMPARE(receiver->commands(), QStringList("output interval=1 message=?? method=1 port=1"));
+    QCOMPARE(outputText(&page, "NAK"), QString("Disabled"));
     receiver->clear();
     tapIn(&page, "messagesButtonBox", "Disable");
     answer(QMessageBox::Yes);
@@ -886,6 +895,18 @@ void tst_melvoxUiOutputMessages::setsBothHalvesOfThePairedCorrections()
     choose(&page, "rateCombo", "1");
     tapIn(&page, "messagesButtonBox", "Apply");
     QCOMPARE(receiver->commands(), sent);
+}
+
+void tst_melvoxUiOutputMessages::leavesTheRowOfTheOtherHalfToTheReceiver()
+{
+    melvoxUiOutputMessages_t page(device);
+    choosePort(&page);
+    reportOutput(OTHER_PORT, "RTCM1", 1, 1.0);
+    reportOutput(OTHER_PORT, "RTCM31", 1, 1.0);
+    select(&page, "RTCM1");
+    tapIn(&page, "messagesButtonBox", "Apply");
+    QCOMPARE(outputText(&page, "RTCM1"), QString("Disabled"));
+    QCOMPARE(outputText(&page, "RTCM31"), QString("Interval 1.00(1)"));
 }
 
 void tst_melvoxUiOutputMessages::showsASubmittedMessageAsDisabledUntilTheReceiverAnswers()
@@ -1167,6 +1188,25 @@ void tst_melvoxUiOutputMessages::warnsAgainAfterDefaultsUntilTheTickedWarningIsC
 namespace
 {
 
+/** A host that saves as soon as it is asked to. */
+class savingHost_t : public QObject
+{
+    Q_OBJECT
+
+public:
+    savingHost_t(melvoxUiOutputMessages_t* page, qdconfig::config_t* config) : m_page(page), m_config(config)
+    {
+        connect(page, SIGNAL(saveUiSettingsNeeded()), SLOT(save()));
+    }
+
+private slots:
+    void save() { m_page->saveUiSettings(m_config, "outputs/"); }
+
+private:
+    melvoxUiOutputMessages_t* m_page;
+    qdconfig::config_t* m_config;
+};
+
 /** A store in a file of its own. */
 struct store_t
 {
@@ -1202,6 +1242,21 @@ void tst_melvoxUiOutputMessages::keepsTheWarningInTheStore()
     device->setShowDtmWarning(false);
     page.loadUiSettings(&store.config, "outputs/");
     QVERIFY(device->showDtmWarning());
+}
+
+void tst_melvoxUiOutputMessages::asksToBeSavedOnceTheWarningIsAsChosen()
+{
+    store_t store;
+    melvoxUiOutputMessages_t page(device);
+    savingHost_t host(&page, &store.config);
+    choosePort(&page);
+    select(&page, "NMEAGGA");
+    tapIn(&page, "messagesButtonBox", "Apply");
+    tap(dtmDialog(&page), "suppressWarningCheckBox");
+    tap(dtmDialog(&page), "OK");
+    std::string text;
+    QVERIFY(store.config.getValue("outputs/show_dtm_warning", text));
+    QCOMPARE(text, qdconfig::qdConfigEncode(false));
 }
 
 void tst_melvoxUiOutputMessages::leavesTheWarningAloneWhenTheKeyIsMissing()

@@ -4,6 +4,7 @@
 #include "support/pageTest.h"
 
 #include <QDialogButtonBox>
+#include <QGroupBox>
 #include <QPushButton>
 
 using namespace brel_common_qt;
@@ -331,6 +332,7 @@ void tst_melvoxUiPhysicalPortConfigDialog::keepsItsTexts()
     melvoxUiPhysicalPortConfigDialog_t dialog(device, 0);
     QCOMPARE(labelText(&dialog, QTest::currentDataTag()), text);
     QCOMPARE(dialog.windowTitle(), QString("MELVOX Physical Port Configuration"));
+    QCOMPARE(find<QGroupBox>(&dialog, "physicalPortGroup")->title(), QString("Configure Physical Port"));
 }
 
 QTEST_MAIN(tst_melvoxUiPhysicalPortConfigDialog)

@@ -71,7 +71,7 @@ struct serialDisplay_t
 {
     explicit serialDisplay_t(unsigned int baud)
     {
-        melvox_link::line_t const line = {baud, 8, 'O', 2};
+        melvox_link::line_t const line = {baud, 7, 'O', 2};
         link.makeSerial(line);
         device.reset(new remoteMelvoxDevice_t(melvox_kit::createPort(&link, melvox_kit::LINK_SERIAL)));
     }
@@ -596,8 +596,8 @@ void tst_melvoxUiPortConfiguration::speedsUpItsOwnLineAndSaysSo()
     melvoxUiPortConfiguration_t page(display.device.data());
     display.link.clear();
     display.link.event("badBaud");
-    QCOMPARE(display.link.lines(), QStringList("115200 8O2"));
-    QCOMPARE(display.link.commands(), QStringList("serialConfig baud=115200 charSize=1 parity=1 stopBits=1"));
+    QCOMPARE(display.link.lines(), QStringList("115200 7O2"));
+    QCOMPARE(display.link.commands(), QStringList("serialConfig baud=115200 charSize=0 parity=1 stopBits=1"));
     QMessageBox const* const box = melvox_test::openBox();
     QVERIFY(box);
     QCOMPARE(box->windowTitle(), QString("Invalid MELVOX Baud Rate"));

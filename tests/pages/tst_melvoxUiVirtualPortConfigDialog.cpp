@@ -2,6 +2,8 @@
 
 #include "support/pageTest.h"
 
+#include <QGroupBox>
+
 using namespace brel_common_qt;
 using namespace brel_common_qt_gui;
 
@@ -295,6 +297,7 @@ void tst_melvoxUiVirtualPortConfigDialog::keepsItsTexts()
     melvoxUiVirtualPortConfigDialog_t dialog(device, 0);
     QCOMPARE(labelText(&dialog, QTest::currentDataTag()), text);
     QCOMPARE(dialog.windowTitle(), QString("MELVOX Virtual Port Configuration"));
+    QCOMPARE(find<QGroupBox>(&dialog, "virtualPortGroup")->title(), QString("Configure Virtual Port"));
 }
 
 QTEST_MAIN(tst_melvoxUiVirtualPortConfigDialog)

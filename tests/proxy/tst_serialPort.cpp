@@ -52,6 +52,7 @@ private slots:
     void knowsTheNewSettingsAfterwards();
     void movesWhileTheLockIsHeld();
     void doesNothingOnALinkWithoutALine();
+    void staysAsItIsForARateOfZero();
 
 protected:
     void setUp();
@@ -179,6 +180,18 @@ void tst_serialPort::doesNothingOnALinkWithoutALine()
 {
     port()->configure(CONFIG, false);
     QVERIFY(m_link->order.isEmpty());
+}
+
+// Whoever chooses no rate sends none; a device at rate 0 hangs up, and the receiver would wait for it in vain.
+void tst_serialPort::staysAsItIsForARateOfZero()
+{
+    melvox_test::expectWarning("The line stays at 9600 baud");
+    m_link->makeSerial(LINE);
+    serialPortConfig_t none = CONFIG;
+    none.baud = 0;
+    port()->configure(none, false);
+    QVERIFY(m_link->order.isEmpty());
+    QCOMPARE(port()->serialPortConfig()->baud, 9600u);
 }
 
 QTEST_MAIN(tst_serialPort)
