@@ -4,6 +4,7 @@
 #include "melvox_ui/melvoxUiProfileLoader.h"
 
 #include "support/dialogs.h"
+#include "support/looks.h"
 #include "support/pageTest.h"
 
 #include <QGroupBox>
@@ -35,6 +36,7 @@ private:
 
 private slots:
     void hasItsTextsAndColumns();
+    void offersItsButtonsInOrder();
     void asksNothingByItself();
     void asksForTheListThenForTheActiveProfile();
     void listsProfilesAsTheyAreTold();
@@ -110,6 +112,14 @@ void tst_melvoxUiSettingsProfiles::hasItsTextsAndColumns()
     QVERIFY(profiles(&page)->isSortingEnabled());
     QVERIFY(!profiles(&page)->rootIsDecorated());
     QCOMPARE(melvox_test::button(&page, "saveNewButton")->text(), QString("Save New Profile"));
+}
+
+void tst_melvoxUiSettingsProfiles::offersItsButtonsInOrder()
+{
+    melvoxUiSettingsProfiles_t page(device);
+    QCOMPARE(melvox_test::actionTexts(&page, "buttonBox"), QStringList() << "Query"
+                                                                         << "Set Active"
+                                                                         << "Delete");
 }
 
 void tst_melvoxUiSettingsProfiles::asksNothingByItself()

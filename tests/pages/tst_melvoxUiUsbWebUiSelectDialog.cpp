@@ -1,6 +1,7 @@
 #include "melvox_ui/melvoxUiUsbWebUiSelectDialog.h"
 
 #include "support/folder.h"
+#include "support/looks.h"
 #include "support/pageTest.h"
 
 #include <QGroupBox>
@@ -28,6 +29,7 @@ private:
 
 private slots:
     void hasItsTextsAndColumns();
+    void offersItsButtonsInOrder();
     void startsEmptyWithNothingToPress();
     void listsFilesByTheirNames_data();
     void listsFilesByTheirNames();
@@ -58,6 +60,13 @@ void tst_melvoxUiUsbWebUiSelectDialog::hasItsTextsAndColumns()
     QCOMPARE(melvox_test::headerTexts(tree(&dialog)), QStringList("File"));
     QVERIFY(!tree(&dialog)->rootIsDecorated());
     QVERIFY(tree(&dialog)->isSortingEnabled());
+}
+
+void tst_melvoxUiUsbWebUiSelectDialog::offersItsButtonsInOrder()
+{
+    melvoxUiUsbWebUiSelectDialog_t dialog(0);
+    QCOMPARE(melvox_test::actionTexts(&dialog, "buttonBox"), QStringList() << "Stop Scan"
+                                                                           << "Select Package");
 }
 
 void tst_melvoxUiUsbWebUiSelectDialog::startsEmptyWithNothingToPress()
