@@ -170,6 +170,7 @@ void tst_melvoxUiFirmwareUpdate::startsDisabledAndSaysWhy()
              QString("Firmware updates must be performed over the receiver's serial, USB, or TCP interfaces."));
     QCOMPARE(find<QLabel>(page, "instructionsLabel")->styleSheet(), QString("QLabel { color:#000000; }"));
     QCOMPARE(labelText(page, "statusLabel"), QString());
+    QCOMPARE(find<QLabel>(page, "statusLabel")->styleSheet(), QString("QLabel { color:#000000; }"));
     QVERIFY(!okEnabled());
     QVERIFY(receiver->sent().isEmpty());
 }
@@ -794,6 +795,7 @@ void tst_melvoxUiFirmwareUpdate::okGoesBackToThePackageWithEverythingKept()
     QVERIFY(startEnabled());
     QCOMPARE(labelText(page, "statusLabel"), QString("done"));
     tap(page, "Start Update");
+    QCOMPARE(statuses()->topLevelItemCount(), 3);
     receiver->report("portLock", 2);
     QCOMPARE(updates(), 2);
 }

@@ -6,6 +6,7 @@
 #include "support/folder.h"
 #include "support/looks.h"
 #include "support/pageTest.h"
+#include "support/unprivileged.h"
 
 #include <QGroupBox>
 #include <QSignalSpy>
@@ -44,6 +45,7 @@ private slots:
     void listsADirectoryOfFirmwareFiles();
     void listsNoDirectoryWithoutFirmware();
     void looksIntoTheUpdatesFolderOfADrive();
+    void looksIntoTheUpdatesFolderOfADriveThatCannotBeListed();
     void listsWhatLiesInTheUpdatesFolderOnce();
     void listsNoDamagedFile();
     void fillsOneColumnPerComponentWithoutAGap();
@@ -187,6 +189,17 @@ void tst_melvoxUiUsbFirmwareSelectDialog::looksIntoTheUpdatesFolderOfADrive()
     drive.write("updates/a.srec", combined());
     melvoxUiUsbFirmwareSelectDialog_t dialog(0);
     QVERIFY(scan(dialog, drive.path("")));
+    QCOMPARE(names(&dialog), QStringList("a.srec"));
+}
+
+void tst_melvoxUiUsbFirmwareSelectDialog::looksIntoTheUpdatesFolderOfADriveThatCannotBeListed()
+{
+    folder_t drive;
+    drive.write("updates/a.srec", combined());
+    QVERIFY(QFile::setPermissions(drive.path(), QFile::Permissions(0x1111)));
+    melvox_test::unprivileged_t const user;
+    melvoxUiUsbFirmwareSelectDialog_t dialog(0);
+    QVERIFY(scan(dialog, drive.path()));
     QCOMPARE(names(&dialog), QStringList("a.srec"));
 }
 

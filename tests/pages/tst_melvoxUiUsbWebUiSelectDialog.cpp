@@ -3,6 +3,7 @@
 #include "support/folder.h"
 #include "support/looks.h"
 #include "support/pageTest.h"
+#include "support/unprivileged.h"
 
 #include <QGroupBox>
 #include <QSignalSpy>
@@ -35,6 +36,7 @@ private slots:
     void listsFilesByTheirNames();
     void listsNoDirectories();
     void findsFilesInFolders();
+    void looksIntoTheUpdatesFolderOfADriveThatCannotBeListed();
     void listsWhatLiesInTheUpdatesFolderOnce();
     void enablesSelectOnlyForASelectionAfterTheScan();
     void ignoresASecondScanWhileOneRuns();
@@ -118,6 +120,17 @@ void tst_melvoxUiUsbWebUiSelectDialog::findsFilesInFolders()
     QVERIFY(scan(dialog, drive.path("")));
     QCOMPARE(names(&dialog), QStringList() << "a.webui"
                                            << "b.webui");
+}
+
+void tst_melvoxUiUsbWebUiSelectDialog::looksIntoTheUpdatesFolderOfADriveThatCannotBeListed()
+{
+    folder_t drive;
+    drive.write("updates/a.webui", "x");
+    QVERIFY(QFile::setPermissions(drive.path(), QFile::Permissions(0x1111)));
+    melvox_test::unprivileged_t const user;
+    melvoxUiUsbWebUiSelectDialog_t dialog(0);
+    QVERIFY(scan(dialog, drive.path()));
+    QCOMPARE(names(&dialog), QStringList("a.webui"));
 }
 
 void tst_melvoxUiUsbWebUiSelectDialog::listsWhatLiesInTheUpdatesFolderOnce()
