@@ -5,6 +5,7 @@
 
 #include <QDir>
 #include <QFile>
+#include <QFileInfo>
 #if QT_VERSION >= 0x050000
 #include <QLoggingCategory>
 #endif
@@ -56,6 +57,13 @@ QList<melvoxFirmwareScanRecord_t> recordsOf(std::vector<melvox_firmware::part_t>
 bool readParts(QString const& path, std::size_t mostParts, melvox_firmware::packageReader_t& reader, QString& reason)
 {
     reason.clear();
+    // Opening a pipe would wait for somebody to write into it.
+    QFileInfo const info(path);
+    if (info.exists() && !info.isFile())
+    {
+        reason = "this is not a file";
+        return false;
+    }
     QFile file(path);
     if (!file.open(QIODevice::ReadOnly | QIODevice::Unbuffered))
     {

@@ -15,13 +15,12 @@ namespace melvox_kit
  *  out. The folder must be there; empty: no drives. May be called before and after the drive manager is made. */
 BREL_COMMON_QT_EXPORT void setUsbRoot(QString const& path);
 
-/** A file system where it is mounted. */
+/** A file system that this program can read, where it is mounted. */
 struct mount_t
 {
     QString device; //!< such as /dev/sdb1
     QString path;
-    QString name;  //!< its label; may be empty
-    bool writable; //!< by this program
+    QString name; //!< its label; may be empty
 };
 
 /** What a machine has mounted. */
@@ -46,9 +45,8 @@ private:
 /** What this machine has mounted. The caller owns it; null where Qt does not know, which is before 5.4. */
 BREL_COMMON_QT_EXPORT mountTable_t* createSystemMounts();
 
-/** Instead of folders the drives are what of this can be written and is removable: mounted where desktops mount such
- *  drives, or said to be by the kernel, which tells about block devices below `sysRoot`. Once the table is gone there
- *  are no drives. */
+/** Instead of folders the drives are what of this is removable: mounted where desktops mount such drives, or said to be
+ *  by the kernel, which tells about block devices below `sysRoot`. Once the table is gone there are no drives. */
 BREL_COMMON_QT_EXPORT void setUsbMounts(mountTable_t* mounts, QString const& sysRoot = QLatin1String("/sys"));
 
 } // namespace melvox_kit

@@ -34,13 +34,13 @@ public:
         for (int i = 0; i < volumes.size(); ++i)
         {
             QStorageInfo const& volume = volumes.at(i);
-            if (!volume.isValid() || !volume.isReady())
+            // Other users' drives are nobody else's.
+            if (!volume.isValid() || !volume.isReady() || !QFileInfo(volume.rootPath()).isReadable())
                 continue;
             mount_t mount;
             mount.device = QString::fromLocal8Bit(volume.device());
             mount.path = volume.rootPath();
             mount.name = volume.name();
-            mount.writable = !volume.isReadOnly() && QFileInfo(mount.path).isWritable();
             mounts << mount;
         }
         return mounts;

@@ -47,7 +47,7 @@ QList<usbDrive_t> findFolders()
     if (usbRoot.isEmpty())
         return drives;
     QFileInfoList const folders =
-        QDir(usbRoot).entryInfoList(QDir::Dirs | QDir::NoDotAndDotDot | QDir::Readable | QDir::Writable, QDir::Name);
+        QDir(usbRoot).entryInfoList(QDir::Dirs | QDir::NoDotAndDotDot | QDir::Readable, QDir::Name);
     for (int i = 0; i < folders.size(); ++i)
     {
         usbDrive_t drive;
@@ -81,7 +81,7 @@ bool isRemovable(QString const& device)
 bool isDrive(mount_t const& mount)
 {
     // Others are no block devices: memory, network, the kernel's own.
-    if (!mount.writable || mount.path == QLatin1String("/") || !mount.device.startsWith(QLatin1String("/dev/")))
+    if (mount.path == QLatin1String("/") || !mount.device.startsWith(QLatin1String("/dev/")))
         return false;
     for (char const* place : PLACES)
     {

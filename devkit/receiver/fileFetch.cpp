@@ -37,11 +37,6 @@ bool fileFetch_t::isRunning() const
     return m_from != nullptr;
 }
 
-link_t* fileFetch_t::source() const
-{
-    return m_from;
-}
-
 qint64 fileFetch_t::received() const
 {
     return m_received;

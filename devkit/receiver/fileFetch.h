@@ -16,7 +16,6 @@ public:
     void start(link_t* from, QString const& path, qint64 size);
     void stop();
     bool isRunning() const;
-    link_t* source() const;
 
     enum progress_t
     {

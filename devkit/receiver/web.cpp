@@ -37,8 +37,18 @@ QVariantMap stateRecord(int state, QString const& description)
 } // namespace
 
 web_t::web_t(receiver_t& owner)
-    : behaviour_t(owner), m_fetch(owner), m_size(0), m_phase(-1), m_left(0), m_restarting(false)
+    : behaviour_t(owner), m_fetch(owner), m_from(nullptr), m_size(0), m_phase(-1), m_left(0), m_restarting(false)
 {
+}
+
+/** What a display asks when it comes back; the setting itself is not told here. */
+behaviour_t::answer_t web_t::request(link_t* from, QString const& group)
+{
+    if (group != "webControl" || m_untold.isEmpty())
+        return NOT_MINE;
+    receiver.report(from, "webUiUploadState", m_untold);
+    m_untold.clear();
+    return NOT_MINE;
 }
 
 behaviour_t::answer_t web_t::command(link_t* from, QString const& group, QVariant const& value)
@@ -47,7 +57,7 @@ behaviour_t::answer_t web_t::command(link_t* from, QString const& group, QVarian
         return start(from, value);
     if (group == "cancelWebUiUpload")
     {
-        cancel();
+        cancel(from);
         return DONE;
     }
     return group == "fileBlock" ? go(m_fetch.take(from, value)) : NOT_MINE;
@@ -62,11 +72,13 @@ behaviour_t::answer_t web_t::start(link_t* from, QVariant const& value)
     outcome_t const outcome = take(rule, value, QVariant(), taken, why);
     if (outcome == MALFORMED)
         return UNREADABLE;
-    if (m_fetch.isRunning() || m_phase >= 0)
+    if (isRunning())
     {
         receiver.report(from, "webUiUploadState", stateRecord(UPLOAD_IN_PROGRESS, "Another upload is in progress"));
         return DONE;
     }
+    m_from = from;
+    m_untold.clear();
     m_size = taken.toMap().value("size").toLongLong();
     if (outcome == REFUSED || m_size <= 0)
     {
@@ -82,19 +94,28 @@ behaviour_t::answer_t web_t::start(link_t* from, QVariant const& value)
     return DONE;
 }
 
-void web_t::cancel()
+bool web_t::isRunning() const
 {
-    if (!m_fetch.isRunning() && m_phase < 0)
-        return;
-    m_fetch.stop();
-    end(UPLOAD_ERROR, "The upload was cancelled");
+    return m_fetch.isRunning() || m_phase >= 0;
+}
+
+void web_t::cancel(link_t* from)
+{
+    if (isRunning())
+        end(UPLOAD_ERROR, "The upload was cancelled");
+    else // Or a display that has missed the end would wait for it forever.
+        receiver.report(from, "webUiUploadState", stateRecord(UPLOAD_ERROR, "No upload is in progress"));
 }
 
 void web_t::end(int state, QString const& description)
 {
+    m_fetch.stop();
     wantTicks(false);
     m_phase = -1;
     receiver.report("webUiUploadState", stateRecord(state, description));
+    if (!m_from)
+        m_untold = stateRecord(state, description);
+    m_from = nullptr;
 }
 
 behaviour_t::answer_t web_t::go(fileFetch_t::progress_t progress)
@@ -121,14 +142,18 @@ behaviour_t::answer_t web_t::go(fileFetch_t::progress_t progress)
 
 void web_t::linkClosed(link_t* link)
 {
-    if (m_fetch.source() == link)
-        cancel();
+    if (link != m_from)
+        return;
+    m_from = nullptr;
+    // What has been drawn needs no display any more.
+    if (m_fetch.isRunning())
+        end(UPLOAD_ERROR, "The display is gone");
 }
 
 void web_t::restarted()
 {
-    if (!m_restarting)
-        cancel();
+    if (!m_restarting && isRunning())
+        end(UPLOAD_ERROR, "The receiver was restarted during the upload");
 }
 
 void web_t::enter(int phase)

@@ -11,7 +11,7 @@
 namespace brel_common_qt
 {
 
-/** A USB drive that can be read and written now. */
+/** A USB drive that can be read now. Whether it can be written too shows when something is. */
 struct usbDrive_t
 {
     QString mountPoint; //!< ends with a separator, so that a file name can be appended as it stands

@@ -9,10 +9,9 @@
 #include "support/pageSupport.h"
 #include "support/qtCompat.h"
 #include "support/text8.h"
+#include "support/utcText.h"
 
-#include <QDateTime>
 #include <QHeaderView>
-#include <QLocale>
 #include <QPushButton>
 #include <QTimer>
 
@@ -33,13 +32,6 @@ enum column_t
     MODIFIED_COLUMN
 };
 
-/** Weekday, month, day, time and year, the same in every language and version of Qt. */
-QString timeText(unsigned int seconds)
-{
-    QDateTime const time = QDateTime::fromMSecsSinceEpoch(seconds * 1000LL).toUTC();
-    return QLocale::c().toString(time, "ddd MMM d hh:mm:ss yyyy") + utcString;
-}
-
 } // namespace
 
 melvoxUiSettingsProfiles_t::item_t::item_t(std::string const& name_) : name(name_), active(false), tstamp(0)
@@ -50,7 +42,7 @@ melvoxUiSettingsProfiles_t::item_t::item_t(std::string const& name_) : name(name
 void melvoxUiSettingsProfiles_t::item_t::updateTstamp(unsigned int tstamp_)
 {
     tstamp = tstamp_;
-    setText(MODIFIED_COLUMN, timeText(tstamp));
+    setText(MODIFIED_COLUMN, utcText(tstamp));
 }
 
 void melvoxUiSettingsProfiles_t::item_t::setActive(bool active_)

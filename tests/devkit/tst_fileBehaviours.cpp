@@ -70,8 +70,12 @@ private slots:
     void uploadsAWebPackageWithTwoRestarts();
     void cancelsAWebUploadAtAnyTime_data();
     void cancelsAWebUploadAtAnyTime();
+    void tellsWhoeverCancelsThatNoWebUploadRuns();
     void refusesASecondWebUploadUntilTheEnd();
     void breaksAWebUploadOffAtALossOfPower();
+    void breaksAWebUploadOffWhenTheDisplayGoes();
+    void tellsADisplayThatComesBackHowItsWebUploadEnded_data();
+    void tellsADisplayThatComesBackHowItsWebUploadEnded();
     void startsTheIridiumModemAfterARestart();
     void tellsThatTheIridiumModemIsNotProvisioned();
 };
@@ -262,6 +266,12 @@ void tst_fileBehaviours::cancelsAWebUploadAtAnyTime()
     QCOMPARE(webState(), QString("2 Upload complete"));
 }
 
+void tst_fileBehaviours::tellsWhoeverCancelsThatNoWebUploadRuns()
+{
+    display->command("cancelWebUiUpload");
+    QCOMPARE(webState(), QString("0 No upload is in progress"));
+}
+
 void tst_fileBehaviours::refusesASecondWebUploadUntilTheEnd()
 {
     uploadWeb();
@@ -276,9 +286,52 @@ void tst_fileBehaviours::breaksAWebUploadOffAtALossOfPower()
     uploadWeb();
     clock->advance(5000);
     receiver->restart();
-    QVERIFY(webState().startsWith("0 "));
+    QCOMPARE(webState(), QString("0 The receiver was restarted during the upload"));
     clock->advance(20000);
     QVERIFY(webState().startsWith("0 "));
+}
+
+void tst_fileBehaviours::breaksAWebUploadOffWhenTheDisplayGoes()
+{
+    receiverEnd_t other;
+    receiver->addLink(&other, 6);
+    display->command("startWebUiUpload", QVariantMap{{"path", "web"}, {"size", 10}});
+    display->setOpen(false);
+    QCOMPARE(other.last("webUiUploadState").toMap().value("description").toString(), QString("The display is gone"));
+}
+
+void tst_fileBehaviours::tellsADisplayThatComesBackHowItsWebUploadEnded_data()
+{
+    QTest::addColumn<bool>("drawn");
+    QTest::addColumn<bool>("restarted");
+    QTest::addColumn<QString>("state");
+    QTest::newRow("gone while it was drawn") << false << false << "0 The display is gone";
+    QTest::newRow("gone while it was installed") << true << false << "2 Upload complete";
+    QTest::newRow("gone with the power") << true << true << "0 The receiver was restarted during the upload";
+}
+
+void tst_fileBehaviours::tellsADisplayThatComesBackHowItsWebUploadEnded()
+{
+    QFETCH(bool, drawn);
+    QFETCH(bool, restarted);
+    QFETCH(QString, state);
+    if (drawn)
+        uploadWeb();
+    else
+        display->command("startWebUiUpload", QVariantMap{{"path", "web"}, {"size", 10}});
+    display->setOpen(false);
+    if (restarted)
+        receiver->restart();
+    clock->advance(20000);
+    display->setOpen(true);
+    display->messages.clear();
+    display->request("webControl");
+    QCOMPARE(webState(), state);
+    QVERIFY(display->last("webControl").isValid());
+    // Once is enough.
+    display->messages.clear();
+    display->request("webControl");
+    QVERIFY(!display->last("webUiUploadState").isValid());
 }
 
 void tst_fileBehaviours::startsTheIridiumModemAfterARestart()

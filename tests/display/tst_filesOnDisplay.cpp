@@ -406,6 +406,24 @@ private slots:
         QCOMPARE(labelText(page, "uploadPercentLabel"), QString("100.00%"));
     }
 
+    void aWebUploadThatALostLinkBreaksOffIsToldAfterwards()
+    {
+        fixture_t f;
+        QVERIFY(f.ready);
+        f.usb.write("STICK/new.webui", QByteArray(200000, 'w'));
+        QWidget* const page = f.page("webInterface");
+        tap(page, "Select Package");
+        f.chooseDrive("STICK");
+        f.unit.localLink()->setLatency(50);
+        f.chooseFile("melvoxUiUsbWebUiSelectDialog", "new.webui", "Select Package");
+        QVERIFY(waitFor([&]() { return !button(page, "Select Package")->isEnabled(); }));
+        f.unit.localLink()->setOpen(false);
+        f.unit.localLink()->setOpen(true);
+        QVERIFY(waitFor([&]() { return labelText(page, "uploadStatusLabel") == "The display is gone"; }));
+        QVERIFY(button(page, "Select Package")->isEnabled());
+        QVERIFY(!button(page, "Cancel Upload")->isEnabled());
+    }
+
     void theLteModemIsSwitchedFromTheScreen()
     {
         fixture_t f;

@@ -5,6 +5,8 @@
 #include "support/folder.h"
 #include "support/test.h"
 
+#include <sys/stat.h>
+
 using namespace brel_common_qt;
 using melvox_test::folder_t;
 using melvox_test::package_t;
@@ -21,6 +23,7 @@ private slots:
     void takesNothingFromADamagedFile_data();
     void takesNothingFromADamagedFile();
     void saysWhyAFileIsNotUsed();
+    void doesNotWaitForAPipe();
     void readsAFileOfManyBlocks();
     void findsTheFilesOfADirectoryInTheOrderOfTheirNames();
     void putsThePreferredProductOfADirectoryFirst();
@@ -145,6 +148,22 @@ void tst_firmwareScan::saysWhyAFileIsNotUsed()
 #endif
     QCOMPARE(damaged, QString("melvox.firmware: %1 is not used: line 1: this is not an S-record").arg(path));
     QVERIFY2(gone.contains("gone.srec is not used: "), qPrintable(gone));
+}
+
+void tst_firmwareScan::doesNotWaitForAPipe()
+{
+    folder_t folder;
+    QString const pipe = folder.path("pipe");
+    QVERIFY(::mkfifo(QFile::encodeName(pipe).constData(), 0600) == 0);
+    QVERIFY(QFile::link(pipe, folder.path("a.srec")));
+    QList<melvoxFirmwareScanRecord_t> records;
+    QString reason;
+    QVERIFY(!melvox_kit::readFirmwareFile(pipe, records, reason));
+    QCOMPARE(reason, QString("this is not a file"));
+    QStringList files;
+    melvoxFirmwareScanDir(folder.path(), files, records, 8);
+    QVERIFY(records.isEmpty());
+    QVERIFY(files.isEmpty());
 }
 
 void tst_firmwareScan::readsAFileOfManyBlocks()

@@ -4,10 +4,10 @@
 
 #include "support/dialogs.h"
 #include "support/firmware.h"
+#include "support/looks.h"
 #include "support/pageTest.h"
 
 #include <QGroupBox>
-#include <QHeaderView>
 #include <QProgressBar>
 #include <QStackedWidget>
 #include <QTextEdit>
@@ -54,6 +54,8 @@ private:
 private slots:
     void startsDisabledAndSaysWhy();
     void hasItsTextsAndColumns();
+    void offersItsButtonsInOrder();
+    void makesRoomForWhatItsTreesShow();
     void staysDisabledOrNotByTheActivePort_data();
     void staysDisabledOrNotByTheActivePort();
     void entersPackageModeOverATcpConnection_data();
@@ -64,6 +66,7 @@ private slots:
     void showsTheCurrentVersions();
     void startsWithNothingToToggleOrStart();
     void showsTheComponentsOfAPackageInItsOrder();
+    void putsTheReceiversProductFirst();
     void replacesThePackage();
     void keepsThePackageWhenNothingIsChosen();
     void togglesTheSelectedComponent();
@@ -89,6 +92,7 @@ private slots:
     void failsWithTextsDialogAndRelease();
     void ignoresUnknownStates();
     void releasesTheLockOnEveryOutcomeOnce();
+    void showsAnOutcomeThatItDidNotWaitFor();
     void showsGoodTextsAgainAfterAFailure();
     void showsPercentages_data();
     void showsPercentages();
@@ -166,6 +170,7 @@ void tst_melvoxUiFirmwareUpdate::startsDisabledAndSaysWhy()
              QString("Firmware updates must be performed over the receiver's serial, USB, or TCP interfaces."));
     QCOMPARE(find<QLabel>(page, "instructionsLabel")->styleSheet(), QString("QLabel { color:#000000; }"));
     QCOMPARE(labelText(page, "statusLabel"), QString());
+    QCOMPARE(find<QLabel>(page, "statusLabel")->styleSheet(), QString("QLabel { color:#000000; }"));
     QVERIFY(!okEnabled());
     QVERIFY(receiver->sent().isEmpty());
 }
@@ -186,6 +191,25 @@ void tst_melvoxUiFirmwareUpdate::hasItsTextsAndColumns()
     QCOMPARE(find<QProgressBar>(page, "progressBar")->maximum(), 10000);
     QVERIFY(!find<QProgressBar>(page, "progressBar")->isTextVisible());
     QCOMPARE(labelText(page, "percentLabel"), QString("0.00%"));
+}
+
+void tst_melvoxUiFirmwareUpdate::offersItsButtonsInOrder()
+{
+    openPage();
+    QCOMPARE(melvox_test::actionTexts(page, "packageButtonBox"), QStringList() << "Select Package"
+                                                                               << "Toggle Component"
+                                                                               << "Start Update");
+}
+
+void tst_melvoxUiFirmwareUpdate::makesRoomForWhatItsTreesShow()
+{
+    openPage();
+    page->resize(800, 480);
+    page->show();
+    choose(folder->write("a.srec", package_t().add(2, "1.15.2-with-everything-that-was-asked-for").bytes()));
+    QVERIFY(melvox_test::showsColumn(packages(), 1));
+    tap(page, "Start Update");
+    QVERIFY(melvox_test::showsColumn(statuses(), 1));
 }
 
 void tst_melvoxUiFirmwareUpdate::staysDisabledOrNotByTheActivePort_data()
@@ -287,6 +311,18 @@ void tst_melvoxUiFirmwareUpdate::showsTheComponentsOfAPackageInItsOrder()
                                                     << "7.7" << YesString);
     QVERIFY(startEnabled());
     QVERIFY(!melvox_test::button(page, "Toggle Component")->isEnabled());
+}
+
+void tst_melvoxUiFirmwareUpdate::putsTheReceiversProductFirst()
+{
+    openPage();
+    QString const path = folder->write("a.srec", package_t().add(2, "other", 3).add(0, "own", 8).bytes());
+    choose(path);
+    QCOMPARE(packages()->topLevelItem(0)->text(1), QString("own"));
+    // Whatever the receiver says that it is.
+    receiver->report("productInfo", map("serialNumber", "3", "modelName", "3"));
+    choose(path);
+    QCOMPARE(packages()->topLevelItem(0)->text(1), QString("own"));
 }
 
 void tst_melvoxUiFirmwareUpdate::replacesThePackage()
@@ -624,6 +660,19 @@ void tst_melvoxUiFirmwareUpdate::releasesTheLockOnEveryOutcomeOnce()
     QCOMPARE(labelText(page, "statusLabel"), QString("done"));
 }
 
+// Updates that another display runs are told to this one too.
+void tst_melvoxUiFirmwareUpdate::showsAnOutcomeThatItDidNotWaitFor()
+{
+    openPage();
+    reportState(0, "failed");
+    QCOMPARE(labelText(page, "statusLabel"), QString("failed"));
+    QVERIFY(okEnabled());
+    QCOMPARE(receiver->commands(), QStringList("portLock 0"));
+    QVERIFY(openBox());
+    QCOMPARE(openBox()->windowTitle(), QString("Firmware Update Failed"));
+    reportedErrors();
+}
+
 void tst_melvoxUiFirmwareUpdate::showsGoodTextsAgainAfterAFailure()
 {
     startUpdate();
@@ -746,6 +795,7 @@ void tst_melvoxUiFirmwareUpdate::okGoesBackToThePackageWithEverythingKept()
     QVERIFY(startEnabled());
     QCOMPARE(labelText(page, "statusLabel"), QString("done"));
     tap(page, "Start Update");
+    QCOMPARE(statuses()->topLevelItemCount(), 3);
     receiver->report("portLock", 2);
     QCOMPARE(updates(), 2);
 }
@@ -759,7 +809,6 @@ void tst_melvoxUiFirmwareUpdate::survivesBeingDestroyedDuringAnUpdate()
     QVERIFY(!openBox());
 }
 
-// Updates that another display runs are told to this one too.
 void tst_melvoxUiFirmwareUpdate::givesTheLockBackWhenItIsDestroyedBeforeItsUpdateStarts()
 {
     openPage();

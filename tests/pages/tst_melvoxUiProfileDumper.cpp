@@ -4,6 +4,7 @@
 
 #include "support/dialogs.h"
 #include "support/pageTest.h"
+#include "support/unprivileged.h"
 
 #include <QGroupBox>
 
@@ -45,6 +46,7 @@ private slots:
     void showsTheOutcomeOfTheNewestDumpOnly();
     void tellsOfADriveThatWasPulledOut();
     void tellsOfADriveThatIsFull();
+    void tellsOfADriveThatIsWriteProtected();
     void tellsOfAPlaceThatCannotBeWritten();
     void closesItsDialogWithClose();
     void takesItsDialogsAlong();
@@ -223,6 +225,23 @@ void tst_melvoxUiProfileDumper::tellsOfADriveThatIsFull()
     QVERIFY2(labelText(progress(), "statusLabel").startsWith("The profile could not be written: "),
              qPrintable(labelText(progress(), "statusLabel")));
     QVERIFY(!QFile::exists(folder.path("a")));
+}
+
+void tst_melvoxUiProfileDumper::tellsOfADriveThatIsWriteProtected()
+{
+    usb_t usb;
+    QString const drive = usb.plugIn("STICK");
+    QVERIFY(QFile::setPermissions(drive, QFile::Permissions(0x5555)));
+    melvoxUiProfileDumper_t dumper(device, 0);
+    dumper.dumpSettings();
+    usb.choose("STICK");
+    {
+        melvox_test::unprivileged_t const user;
+        answer(dumpedPath(), true, "Dump complete");
+    }
+    QVERIFY2(labelText(progress(), "statusLabel").startsWith("The profile could not be written: "),
+             qPrintable(labelText(progress(), "statusLabel")));
+    QVERIFY(QDir(drive).entryList(QDir::Files).isEmpty());
 }
 
 void tst_melvoxUiProfileDumper::tellsOfAPlaceThatCannotBeWritten()

@@ -5,6 +5,9 @@
 
 #include <QGroupBox>
 
+#include <fcntl.h>
+#include <unistd.h>
+
 using namespace brel_common_qt;
 using namespace brel_common_qt_gui;
 using melvox_test::chooseFile;
@@ -25,6 +28,18 @@ QByteArray pattern(int size)
     for (int i = 0; i < size; ++i)
         bytes[i] = char(i * 7 + i / 251);
     return bytes;
+}
+
+/** Has every further reading of a file fail that this program has open, as that from a drive that was pulled out. */
+void breakFile(QString const& path)
+{
+    int const folder = ::open("/", O_RDONLY);
+    for (QString const& name : QDir("/proc/self/fd").entryList(QDir::Files | QDir::System))
+    {
+        if (QFile::symLinkTarget("/proc/self/fd/" + name) == path)
+            ::dup2(folder, name.toInt());
+    }
+    ::close(folder);
 }
 
 } // namespace
@@ -73,6 +88,7 @@ private slots:
     void finishesWhenTheLockIsLost();
     void tellsOfAFileThatCannotBeOpened();
     void tellsOfAFileThatCannotBeRead();
+    void tellsOfAFileThatCannotBeReadToItsEnd();
     void endsWithAnErrorOfThePort_data();
     void endsWithAnErrorOfThePort();
     void endsWhenItIsCancelled();
@@ -352,6 +368,18 @@ void tst_melvoxUiProfileLoader::tellsOfAFileThatCannotBeRead()
     QCOMPARE(status(), QString("Error reading from file"));
     QCOMPARE(receiver->commands(), QStringList() << "portLock 1"
                                                  << "portLock 0");
+    checkIdle();
+}
+
+void tst_melvoxUiProfileLoader::tellsOfAFileThatCannotBeReadToItsEnd()
+{
+    startLoad(100000);
+    breakFile(folder->path("profile_a.melvox"));
+    for (int i = 0; i < 100 && loader->isLoading(); ++i)
+        result(0);
+    QCOMPARE(status(), QString("Error reading from file"));
+    QVERIFY(blocks().size() < 97);
+    QCOMPARE(locks().last(), QString("portLock 0"));
     checkIdle();
 }
 

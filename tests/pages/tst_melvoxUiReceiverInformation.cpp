@@ -334,6 +334,7 @@ void tst_melvoxUiReceiverInformation::asksBeforeItSwitchesOn()
     QCOMPARE(openBox()->windowTitle(), QString("Toggle the LTE modem?"));
     QCOMPARE(openBox()->icon(), QMessageBox::Warning);
     QCOMPARE(openBox()->standardButtons(), QMessageBox::Yes | QMessageBox::No);
+    QCOMPARE(openBox()->textFormat(), Qt::RichText);
     QCOMPARE(static_cast<QAbstractButton*>(openBox()->defaultButton()), openBox()->button(QMessageBox::No));
     QCOMPARE(
         reportedErrors(),

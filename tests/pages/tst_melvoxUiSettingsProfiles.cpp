@@ -4,6 +4,7 @@
 #include "melvox_ui/melvoxUiProfileLoader.h"
 
 #include "support/dialogs.h"
+#include "support/looks.h"
 #include "support/pageTest.h"
 
 #include <QGroupBox>
@@ -35,6 +36,7 @@ private:
 
 private slots:
     void hasItsTextsAndColumns();
+    void offersItsButtonsInOrder();
     void asksNothingByItself();
     void asksForTheListThenForTheActiveProfile();
     void listsProfilesAsTheyAreTold();
@@ -110,6 +112,14 @@ void tst_melvoxUiSettingsProfiles::hasItsTextsAndColumns()
     QVERIFY(profiles(&page)->isSortingEnabled());
     QVERIFY(!profiles(&page)->rootIsDecorated());
     QCOMPARE(melvox_test::button(&page, "saveNewButton")->text(), QString("Save New Profile"));
+}
+
+void tst_melvoxUiSettingsProfiles::offersItsButtonsInOrder()
+{
+    melvoxUiSettingsProfiles_t page(device);
+    QCOMPARE(melvox_test::actionTexts(&page, "buttonBox"), QStringList() << "Query"
+                                                                         << "Set Active"
+                                                                         << "Delete");
 }
 
 void tst_melvoxUiSettingsProfiles::asksNothingByItself()
@@ -425,13 +435,20 @@ void tst_melvoxUiSettingsProfiles::asksForTheListHalfASecondAfterSaving()
 {
     melvoxUiSettingsProfiles_t page(device);
     type(&page, "profileNameLineEdit", "New");
-    tap(&page, "saveNewButton");
-    QElapsedTimer time;
-    time.start();
-    QVERIFY(melvox_test::waitFor([&] { return receiver->requests().size() == 2; }));
-    QVERIFY2(time.elapsed() >= 450, qPrintable(QString::number(time.elapsed())));
-    QCOMPARE(receiver->requests(), QStringList() << "profiles"
-                                                 << "activeProfile");
+    // The best of a few tries: other programs want this machine too.
+    qint64 best = 1000000;
+    for (int i = 0; i < 3 && best >= 1000; ++i)
+    {
+        receiver->clear();
+        QElapsedTimer time;
+        time.start();
+        tap(&page, "saveNewButton");
+        QVERIFY(melvox_test::waitFor([&] { return receiver->requests().size() == 2; }));
+        best = qMin(best, time.elapsed());
+        QCOMPARE(receiver->requests(), QStringList() << "profiles"
+                                                     << "activeProfile");
+    }
+    QVERIFY2(best >= 450 && best < 1000, qPrintable(QString::number(best)));
 }
 
 void tst_melvoxUiSettingsProfiles::hasADumperAndALoaderOfItsOwn()

@@ -4,10 +4,11 @@
 
 #include "support/firmware.h"
 #include "support/folder.h"
+#include "support/looks.h"
 #include "support/pageTest.h"
+#include "support/unprivileged.h"
 
 #include <QGroupBox>
-#include <QHeaderView>
 #include <QSignalSpy>
 
 using namespace brel_common_qt;
@@ -36,12 +37,15 @@ private:
 private slots:
     void startsEmptyWithNothingToPress();
     void hasItsTextsAndColumns();
+    void offersItsButtonsInOrder();
+    void makesRoomForWhatItLists();
     void listsFilesOfTwoComponentsOrMore();
     void listsAFileWhateverTheCaseOfItsSuffix_data();
     void listsAFileWhateverTheCaseOfItsSuffix();
     void listsADirectoryOfFirmwareFiles();
     void listsNoDirectoryWithoutFirmware();
     void looksIntoTheUpdatesFolderOfADrive();
+    void looksIntoTheUpdatesFolderOfADriveThatCannotBeListed();
     void listsWhatLiesInTheUpdatesFolderOnce();
     void listsNoDamagedFile();
     void fillsOneColumnPerComponentWithoutAGap();
@@ -91,6 +95,23 @@ void tst_melvoxUiUsbFirmwareSelectDialog::hasItsTextsAndColumns()
              QString("Path BOOT1 BOOT2 NAV PIOBOOT1 PIOBOOT2 PIOAPP"));
     QVERIFY(!tree(&dialog)->rootIsDecorated());
     QVERIFY(tree(&dialog)->isSortingEnabled());
+}
+
+void tst_melvoxUiUsbFirmwareSelectDialog::offersItsButtonsInOrder()
+{
+    melvoxUiUsbFirmwareSelectDialog_t dialog(0);
+    QCOMPARE(melvox_test::actionTexts(&dialog, "buttonBox"), QStringList() << "Stop Scan"
+                                                                           << "Select Package");
+}
+
+void tst_melvoxUiUsbFirmwareSelectDialog::makesRoomForWhatItLists()
+{
+    folder_t drive;
+    drive.write("a-release-that-was-given-a-very-long-name.srec", combined());
+    melvoxUiUsbFirmwareSelectDialog_t dialog(0);
+    dialog.show();
+    QVERIFY(scan(dialog, drive.path("")));
+    QVERIFY(melvox_test::showsColumn(tree(&dialog), 0));
 }
 
 void tst_melvoxUiUsbFirmwareSelectDialog::listsFilesOfTwoComponentsOrMore()
@@ -168,6 +189,17 @@ void tst_melvoxUiUsbFirmwareSelectDialog::looksIntoTheUpdatesFolderOfADrive()
     drive.write("updates/a.srec", combined());
     melvoxUiUsbFirmwareSelectDialog_t dialog(0);
     QVERIFY(scan(dialog, drive.path("")));
+    QCOMPARE(names(&dialog), QStringList("a.srec"));
+}
+
+void tst_melvoxUiUsbFirmwareSelectDialog::looksIntoTheUpdatesFolderOfADriveThatCannotBeListed()
+{
+    folder_t drive;
+    drive.write("updates/a.srec", combined());
+    QVERIFY(QFile::setPermissions(drive.path(), QFile::Permissions(0x1111)));
+    melvox_test::unprivileged_t const user;
+    melvoxUiUsbFirmwareSelectDialog_t dialog(0);
+    QVERIFY(scan(dialog, drive.path()));
     QCOMPARE(names(&dialog), QStringList("a.srec"));
 }
 

@@ -1,6 +1,7 @@
 #include "melvox_ui/melvoxUiUsbProfileListDialog.h"
 
 #include "support/folder.h"
+#include "support/looks.h"
 #include "support/pageTest.h"
 
 #include <QGroupBox>
@@ -28,6 +29,7 @@ private:
 
 private slots:
     void hasItsTextsAndColumns();
+    void offersItsButtonsInOrder();
     void startsEmptyWithNothingToPress();
     void listsFilesByTheirNames_data();
     void listsFilesByTheirNames();
@@ -57,6 +59,13 @@ void tst_melvoxUiUsbProfileListDialog::hasItsTextsAndColumns()
     QCOMPARE(melvox_test::headerTexts(tree(&dialog)), QStringList("Filename"));
     QVERIFY(!tree(&dialog)->rootIsDecorated());
     QVERIFY(tree(&dialog)->isSortingEnabled());
+}
+
+void tst_melvoxUiUsbProfileListDialog::offersItsButtonsInOrder()
+{
+    melvoxUiUsbProfileListDialog_t dialog(0);
+    QCOMPARE(melvox_test::actionTexts(&dialog, "buttonBox"), QStringList() << "Stop Scan"
+                                                                           << "Load Profile");
 }
 
 void tst_melvoxUiUsbProfileListDialog::startsEmptyWithNothingToPress()

@@ -1,7 +1,9 @@
 #include "melvox_ui/melvoxUiUsbWebUiSelectDialog.h"
 
 #include "support/folder.h"
+#include "support/looks.h"
 #include "support/pageTest.h"
+#include "support/unprivileged.h"
 
 #include <QGroupBox>
 #include <QSignalSpy>
@@ -28,11 +30,13 @@ private:
 
 private slots:
     void hasItsTextsAndColumns();
+    void offersItsButtonsInOrder();
     void startsEmptyWithNothingToPress();
     void listsFilesByTheirNames_data();
     void listsFilesByTheirNames();
     void listsNoDirectories();
     void findsFilesInFolders();
+    void looksIntoTheUpdatesFolderOfADriveThatCannotBeListed();
     void listsWhatLiesInTheUpdatesFolderOnce();
     void enablesSelectOnlyForASelectionAfterTheScan();
     void ignoresASecondScanWhileOneRuns();
@@ -58,6 +62,13 @@ void tst_melvoxUiUsbWebUiSelectDialog::hasItsTextsAndColumns()
     QCOMPARE(melvox_test::headerTexts(tree(&dialog)), QStringList("File"));
     QVERIFY(!tree(&dialog)->rootIsDecorated());
     QVERIFY(tree(&dialog)->isSortingEnabled());
+}
+
+void tst_melvoxUiUsbWebUiSelectDialog::offersItsButtonsInOrder()
+{
+    melvoxUiUsbWebUiSelectDialog_t dialog(0);
+    QCOMPARE(melvox_test::actionTexts(&dialog, "buttonBox"), QStringList() << "Stop Scan"
+                                                                           << "Select Package");
 }
 
 void tst_melvoxUiUsbWebUiSelectDialog::startsEmptyWithNothingToPress()
@@ -109,6 +120,17 @@ void tst_melvoxUiUsbWebUiSelectDialog::findsFilesInFolders()
     QVERIFY(scan(dialog, drive.path("")));
     QCOMPARE(names(&dialog), QStringList() << "a.webui"
                                            << "b.webui");
+}
+
+void tst_melvoxUiUsbWebUiSelectDialog::looksIntoTheUpdatesFolderOfADriveThatCannotBeListed()
+{
+    folder_t drive;
+    drive.write("updates/a.webui", "x");
+    QVERIFY(QFile::setPermissions(drive.path(), QFile::Permissions(0x1111)));
+    melvox_test::unprivileged_t const user;
+    melvoxUiUsbWebUiSelectDialog_t dialog(0);
+    QVERIFY(scan(dialog, drive.path()));
+    QCOMPARE(names(&dialog), QStringList("a.webui"));
 }
 
 void tst_melvoxUiUsbWebUiSelectDialog::listsWhatLiesInTheUpdatesFolderOnce()

@@ -2,6 +2,7 @@
 #include "brel_common_qt_gui/usbDriveSelectDialog.h"
 #include "support/folder.h"
 #include "support/test.h"
+#include "support/unprivileged.h"
 #include "typing.h"
 
 #include <QDir>
@@ -62,13 +63,12 @@ public:
         QVERIFY(QFile::link(m_sys.path(disk), m_sys.path("class/block/" + name)));
         QVERIFY(QFile::link(m_sys.path(disk + "/" + name + "1"), m_sys.path("class/block/" + name + "1")));
     }
-    void mount(QString const& device, QString const& path, QString const& name = QString(), bool writable = true)
+    void mount(QString const& device, QString const& path, QString const& name = QString())
     {
         melvox_kit::mount_t mount;
         mount.device = device;
         mount.path = path;
         mount.name = name;
-        mount.writable = writable;
         m_mounts << mount;
         emit changed();
     }
@@ -98,6 +98,8 @@ private slots:
     void foldersStandForDrives();
     void mountPointsCanBeAppendedTo();
     void filesAreNoDrives();
+    void drivesThatAreWriteProtectedAreThereToReadFrom();
+    void foldersThatCannotBeReadAreNoDrives();
     void drivesArePluggedInAndPulledOut();
     void unchangedDrivesAreNotTold();
     void anotherRootHasOtherDrives();
@@ -194,6 +196,24 @@ void tst_usbDrives::filesAreNoDrives()
     QVERIFY(file.remove());
 }
 
+void tst_usbDrives::drivesThatAreWriteProtectedAreThereToReadFrom()
+{
+    plugIn("STICK");
+    QVERIFY(QFile::setPermissions(m_root.filePath("STICK"), QFile::Permissions(0x5555)));
+    melvox_test::unprivileged_t const user;
+    usbDriveManager_t const manager;
+    QCOMPARE(names(manager.drives()), QString("STICK"));
+}
+
+void tst_usbDrives::foldersThatCannotBeReadAreNoDrives()
+{
+    plugIn("STICK");
+    QVERIFY(QFile::setPermissions(m_root.filePath("STICK"), QFile::Permissions()));
+    melvox_test::unprivileged_t const user;
+    usbDriveManager_t const manager;
+    QCOMPARE(names(manager.drives()), QString());
+}
+
 void tst_usbDrives::drivesArePluggedInAndPulledOut()
 {
     usbDriveManager_t manager;
@@ -260,33 +280,36 @@ void tst_usbDrives::drivesOfTheMachineAreWhereDesktopsMountThem_data()
 {
     QTest::addColumn<QString>("device");
     QTest::addColumn<QString>("path");
-    QTest::addColumn<bool>("writable");
     QTest::addColumn<QString>("found");
     QTest::newRow("media") << "/dev/sdb1"
-                           << "/media/user/STICK" << true << "STICK";
+                           << "/media/user/STICK"
+                           << "STICK";
     QTest::newRow("run") << "/dev/sdb1"
-                         << "/run/media/user/STICK" << true << "STICK";
+                         << "/run/media/user/STICK"
+                         << "STICK";
     QTest::newRow("by hand") << "/dev/sdb1"
-                             << "/mnt/stick" << true << "stick";
-    QTest::newRow("read only") << "/dev/sdb1"
-                               << "/media/user/STICK" << false << "";
+                             << "/mnt/stick"
+                             << "stick";
     QTest::newRow("the system's own") << "/dev/sdb1"
-                                      << "/" << true << "";
+                                      << "/"
+                                      << "";
     QTest::newRow("elsewhere") << "/dev/sdb1"
-                               << "/home" << true << "";
+                               << "/home"
+                               << "";
     QTest::newRow("memory") << "tmpfs"
-                            << "/mnt/memory" << true << "";
+                            << "/mnt/memory"
+                            << "";
     QTest::newRow("network") << "server:/files"
-                             << "/mnt/files" << true << "";
+                             << "/mnt/files"
+                             << "";
 }
 
 void tst_usbDrives::drivesOfTheMachineAreWhereDesktopsMountThem()
 {
     QFETCH(QString, device);
     QFETCH(QString, path);
-    QFETCH(bool, writable);
     machine_t machine;
-    machine.mount(device, path, QString(), writable);
+    machine.mount(device, path);
     melvox_kit::setUsbMounts(&machine, machine.sys());
     usbDriveManager_t const manager;
     QTEST(names(manager.drives()), "found");
