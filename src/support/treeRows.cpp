@@ -5,14 +5,30 @@
 namespace brel_common_qt_gui
 {
 
+namespace
+{
+
+/** Whether rows count as less than their like. A sort then turns equal rows round. */
+bool turnsEqualRowsRound(QTreeWidget const* tree)
+{
+    QTreeWidgetItem const* const row = tree->topLevelItem(0);
+    return row && *row < *row;
+}
+
+} // namespace
+
 sortPause_t::sortPause_t(QTreeWidget* tree) : m_tree(tree), m_paused(false)
 {
 }
 
 sortPause_t::~sortPause_t()
 {
-    if (m_paused)
-        m_tree->setSortingEnabled(true);
+    if (!m_paused)
+        return;
+    m_tree->setSortingEnabled(true);
+    // Else equal rows would change places at every refresh; a second turn puts them back.
+    if (turnsEqualRowsRound(m_tree))
+        m_tree->model()->sort(m_tree->sortColumn(), m_tree->header()->sortIndicatorOrder());
 }
 
 void sortPause_t::begin()

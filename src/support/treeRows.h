@@ -14,7 +14,8 @@ namespace brel_common_qt_gui
 {
 
 /** Holds back a tree's own sorting while many rows change: a sorted tree would move each row at once, at the price of
- *  looking at all the others. The tree is sorted once when this goes away, and not at all if nothing began. */
+ *  looking at all the others. The tree is sorted when this goes away, and not at all if nothing began; equal rows stay
+ *  in the order in which they stood. */
 class sortPause_t
 {
 public:

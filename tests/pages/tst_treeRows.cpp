@@ -49,6 +49,15 @@ private:
     int m_number;
 };
 
+/** Counts as less than its like. */
+class reflexiveRow_t : public row_t
+{
+public:
+    reflexiveRow_t(value_t const& value, int factor) : row_t(value, factor) {}
+
+    bool operator<(QTreeWidgetItem const& other) const override { return text(1).toInt() >= other.text(1).toInt(); }
+};
+
 values_t values(int count, int first = 1)
 {
     values_t map;
@@ -102,6 +111,8 @@ private slots:
     void neverEmptiesTheTreeOnTheWay();
     void sortsOnceHoweverManyRowsChange();
     void doesNotSortWhenNothingChanges();
+    void leavesEqualRowsWhereTheyStand_data();
+    void leavesEqualRowsWhereTheyStand();
     void keepsASortedTreeSorted();
     void keepsTheSelectionWhenRowsMove();
     void leavesAnUnsortedTreeUnsorted();
@@ -310,6 +321,38 @@ void tst_treeRows::doesNotSortWhenNothingChanges()
     QSignalSpy laidOut(tree->model(), SIGNAL(layoutChanged()));
     sync(values(50));
     QCOMPARE(laidOut.count(), 0);
+}
+
+void tst_treeRows::leavesEqualRowsWhereTheyStand_data()
+{
+    QTest::addColumn<int>("order");
+    QTest::newRow("ascending") << int(Qt::AscendingOrder);
+    QTest::newRow("descending") << int(Qt::DescendingOrder);
+}
+
+void tst_treeRows::leavesEqualRowsWhereTheyStand()
+{
+    QFETCH(int, order);
+    values_t map = values(30);
+    for (values_t::iterator it = map.begin(); it != map.end(); ++it)
+        it->second.number = 5;
+    map[30].number = 7;
+    keepInStep<reflexiveRow_t>(tree, map, 1);
+    tree->setSortingEnabled(true);
+    tree->sortItems(1, Qt::SortOrder(order));
+    QStringList const before = rows(*tree).split(" ").filter(":5");
+    QCOMPARE(before.size(), 29);
+    int const others[] = {8, 3, 4, 9};
+    for (int const other : others)
+    {
+        map[30].number = other;
+        keepInStep<reflexiveRow_t>(tree, map, 1);
+        QStringList const after = rows(*tree).split(" ");
+        QCOMPARE(after.filter(":5"), before);
+        bool const large = other > 5;
+        QString const text = QString("30:%1").arg(other);
+        QCOMPARE(large == (order == Qt::AscendingOrder) ? after.first() : after.last(), text);
+    }
 }
 
 void tst_treeRows::keepsASortedTreeSorted()
