@@ -176,6 +176,9 @@ melvoxUiCorrectionsReceiver_t::melvoxUiCorrectionsReceiver_t(remoteMelvoxDevice_
     connect(m_data->statsTimer, SIGNAL(timeout()), SLOT(clearCorrectionSatStats()));
 
     updateCorrectionSatStats();
+    // Before the receiver has told anything, no satellite and none in use is not news but ignorance.
+    if (device->correctionSatStats().empty() && device->correctionSatInUse() == 0)
+        clearCorrectionSatStats();
     updateCorrectionSatAuto();
     updateCorrectionSelection();
     updateNetPriority();
@@ -224,8 +227,7 @@ void melvoxUiCorrectionsReceiver_t::updateCorrectionSatStats()
     unsigned int const inUse = m_data->device->correctionSatInUse();
     keepInStep<item_t>(m_data->ui.statusTree, stats, inUse);
     fitColumnsOnce();
-    // Until the receiver has told anything, no satellite and none in use is not news but ignorance.
-    showStatus(m_data->ui.currentSatIdLabel, inUse != 0 || !stats.empty(), QString::number(inUse));
+    m_data->ui.currentSatIdLabel->setText(QString::number(inUse));
 }
 
 void melvoxUiCorrectionsReceiver_t::fitColumnsOnce()

@@ -46,6 +46,8 @@ private slots:
     void showsNoDataAndSendsNothingBeforeTheFirstReport();
     void showsValuesThatTheProxyHeldBeforeThePageWasBuilt();
     void namesItsGroupsAndColumns();
+    void captionsItsValues_data();
+    void captionsItsValues();
     void keepsEverythingOnOnePageOfAStack();
     void writesARowForEachSatellite();
     void writesTheStatusInWords_data();
@@ -56,6 +58,7 @@ private slots:
     void marksAnotherSatelliteWhenTheOneInUseChanges();
     void showsTheIdOfTheSatelliteInUse();
     void showsNoneInUseAsZero();
+    void showsNoneInUseAlsoWhenNoSatelliteIsLeft();
     void changesRowsInPlace();
     void neverShowsASatelliteTwice();
     void takesAwayASatelliteWithoutStatistics();
@@ -70,6 +73,8 @@ private slots:
     void sortsByEveryColumn();
     void countsRowsWithTheSameBadPacketsAsLessThanEachOther();
     void ordersByBadPacketsInBothDirections();
+    void keepsAllOfManyRowsWithTheSameBadPackets();
+    void leavesRowsWithTheSameBadPacketsWhereTheyStand();
     void fitsTheColumnsToWhatSatellitesWillTell();
     void fitsTheColumnsOnceAndThenLeavesThemToTheOperator();
     void neverStartsTheTimerForOldStatistics();
@@ -210,6 +215,25 @@ void tst_melvoxUiCorrectionsReceiver::namesItsGroupsAndColumns()
     QCOMPARE(policy->itemText(0) + policy->itemText(1), QString("AutomaticManual"));
 }
 
+void tst_melvoxUiCorrectionsReceiver::captionsItsValues_data()
+{
+    QTest::addColumn<QString>("caption");
+    QTest::newRow("currentSatIdTitleLabel") << "Current Selection:";
+    QTest::newRow("autoSelectTitleLabel") << "Auto-Select:";
+    QTest::newRow("correctionSelectionTitleLabel") << "Correction Selection:";
+    QTest::newRow("mrvAlmUpdatedTitleLabel") << "MRV Almanac Updated:";
+    QTest::newRow("mrvAlmAvailableTitleLabel") << "New Almanac Available:";
+    QTest::newRow("mrvAlmSwitchPolicyTitleLabel") << "Switch Policy:";
+    QTest::newRow("mrvAlmAutoSwitchTimeTitleLabel") << "Auto-switch After(HH:MM):";
+}
+
+void tst_melvoxUiCorrectionsReceiver::captionsItsValues()
+{
+    QFETCH(QString, caption);
+    melvoxUiCorrectionsReceiver_t page(device);
+    QCOMPARE(labelText(&page, QTest::currentDataTag()), caption);
+}
+
 void tst_melvoxUiCorrectionsReceiver::keepsEverythingOnOnePageOfAStack()
 {
     melvoxUiCorrectionsReceiver_t page(device);
@@ -308,6 +332,14 @@ void tst_melvoxUiCorrectionsReceiver::showsNoneInUseAsZero()
 {
     melvoxUiCorrectionsReceiver_t page(device);
     reportFour(0);
+    QCOMPARE(labelText(&page, "currentSatIdLabel"), QString("0"));
+}
+
+void tst_melvoxUiCorrectionsReceiver::showsNoneInUseAlsoWhenNoSatelliteIsLeft()
+{
+    melvoxUiCorrectionsReceiver_t page(device);
+    reportFour();
+    reportStats(0, QVariantList());
     QCOMPARE(labelText(&page, "currentSatIdLabel"), QString("0"));
 }
 
@@ -476,6 +508,37 @@ void tst_melvoxUiCorrectionsReceiver::ordersByBadPacketsInBothDirections()
     QCOMPARE(column(&page, 6), QString("0.00%|0.50%|50.00%|91.00%|100.00%"));
     tree(&page)->sortItems(6, Qt::DescendingOrder);
     QCOMPARE(column(&page, 6), QString("100.00%|91.00%|50.00%|0.50%|0.00%"));
+}
+
+void tst_melvoxUiCorrectionsReceiver::keepsAllOfManyRowsWithTheSameBadPackets()
+{
+    melvoxUiCorrectionsReceiver_t page(device);
+    QVariantList sats;
+    for (int id = 1; id <= 300; ++id)
+        sats << stat(id, 9, id, 1, 50, 1, 1);
+    reportStats(1, sats);
+    tree(&page)->sortItems(6, Qt::AscendingOrder);
+    tree(&page)->sortItems(6, Qt::DescendingOrder);
+    QStringList ids = column(&page, 0).split('|');
+    QCOMPARE(ids.removeDuplicates(), 0);
+    QCOMPARE(ids.size(), 300);
+}
+
+void tst_melvoxUiCorrectionsReceiver::leavesRowsWithTheSameBadPacketsWhereTheyStand()
+{
+    melvoxUiCorrectionsReceiver_t page(device);
+    page.resize(800, 430);
+    page.show();
+    reportStats(4, list(stat(1, 1, 1, 1, 0, 1, 1), stat(2, 1, 1, 1, 0, 1, 1), stat(3, 1, 1, 1, 0, 1, 1),
+                        stat(4, 9, 9, 1, 99, 1, 1)));
+    tapHeader(tree(&page), 6);
+    QString const before = column(&page, 0);
+    for (int second = 1; second <= 3; ++second)
+    {
+        reportStats(4, list(stat(1, 1, 1, 1, 0, 1, 1), stat(2, 1, 1, 1, 0, 1, 1), stat(3, 1, 1, 1, 0, 1, 1),
+                            stat(4, 9, 9, 1, 99 - second, 1, 1)));
+        QCOMPARE(column(&page, 0), before);
+    }
 }
 
 void tst_melvoxUiCorrectionsReceiver::fitsTheColumnsToWhatSatellitesWillTell()
@@ -843,18 +906,14 @@ void tst_melvoxUiCorrectionsReceiver::asksForEveryGroupInThePagesOrder()
 {
     melvoxUiCorrectionsReceiver_t page(device);
     tap(&page, "Query");
-    QStringList asked = receiver->requests();
-    // The proxy may ask for what belongs to the satellites along with them.
-    asked.removeAll("correctionSatStats");
-    asked.removeAll("userCorrectionSat");
-    QCOMPARE(asked.join("\n"), QString("correctionSelection\n"
-                                       "netPriority\n"
-                                       "rtgUseMode\n"
-                                       "correctionSats\n"
-                                       "correctionSatSelection\n"
-                                       "mrvAlmanacInfo\n"
-                                       "starfireAlmStatus\n"
-                                       "starfireAlmSwitchPolicy"));
+    QCOMPARE(receiver->requests().join("\n"), QString("correctionSelection\n"
+                                                      "netPriority\n"
+                                                      "rtgUseMode\n"
+                                                      "correctionSats\n"
+                                                      "correctionSatSelection\n"
+                                                      "mrvAlmanacInfo\n"
+                                                      "starfireAlmStatus\n"
+                                                      "starfireAlmSwitchPolicy"));
     QVERIFY(receiver->commands().isEmpty());
 }
 
