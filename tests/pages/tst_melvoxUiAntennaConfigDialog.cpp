@@ -43,6 +43,8 @@ private:
 private slots:
     void keepsTheTitleOfAnotherDialog();
     void namesItsGroupsAndItems();
+    void captionsItsValues_data();
+    void captionsItsValues();
     void namesTheAntenna();
     void startsWithItsFirstTexts();
     void knowsNoNameAtFirst();
@@ -131,6 +133,24 @@ void tst_melvoxUiAntennaConfigDialog::namesItsGroupsAndItems()
     QCOMPARE(items("useAdjustmentsCombo"), QString("No|Yes"));
     QCOMPARE(find<QComboBox>(dialog, "slantRangeSignCombo")->count(), 2);
     QCOMPARE(find<QComboBox>(dialog, "radiusSignCombo")->count(), 2);
+}
+
+void tst_melvoxUiAntennaConfigDialog::captionsItsValues_data()
+{
+    QTest::addColumn<QString>("caption");
+    QTest::newRow("antennaTitleLabel") << "Antenna:";
+    QTest::newRow("nameTitleLabel") << "IGS Antenna:";
+    QTest::newRow("serialNumberTitleLabel") << "Serial Number:";
+    QTest::newRow("setupIdTitleLabel") << "Setup ID:";
+    QTest::newRow("useAdjustmentsTitleLabel") << "Use Adjustments:";
+    QTest::newRow("slantRangeTitleLabel") << "Slant Range (mm):";
+    QTest::newRow("radiusTitleLabel") << "Radius (mm):";
+}
+
+void tst_melvoxUiAntennaConfigDialog::captionsItsValues()
+{
+    QFETCH(QString, caption);
+    QCOMPARE(labelText(dialog, QTest::currentDataTag()), caption);
 }
 
 void tst_melvoxUiAntennaConfigDialog::namesTheAntenna()
@@ -396,6 +416,7 @@ void tst_melvoxUiAntennaConfigDialog::acceptsAndRefusesRanges_data()
     QTest::addColumn<int>("sign");
     QTest::addColumn<QString>("sent");
     QTest::newRow("nothing") << "00000" << 0 << "0";
+    QTest::newRow("nothing, turned round") << "00000" << 1 << "0";
     QTest::newRow("positive") << "00123" << 0 << "123";
     QTest::newRow("negative") << "00123" << 1 << "-123";
     QTest::newRow("highest") << "32767" << 0 << "32767";

@@ -29,6 +29,8 @@ private slots:
     void sendsBothSettingsAlsoBeforeTheFirstReport();
     void showsValuesThatTheProxyHeldBeforeThePageWasBuilt();
     void namesItsGroupsAndColumns();
+    void captionsItsValues();
+    void fitsItsColumnsToWhatTheyHold();
     void makesARowForEachAntenna();
     void fillsHeightsIntoTheSameRows();
     void makesTheRowsFromHeightsToo();
@@ -152,6 +154,29 @@ void tst_melvoxUiAntennaIdentification::namesItsGroupsAndColumns()
     QCOMPARE(find<QGroupBox>(&page, "baseInfoGroup_2")->title(), QString("Dual Antenna Mode"));
     QCOMPARE(melvox_test::headerTexts(tree(&page)).join("|"),
              QString("Antenna|IGS Antenna Name|Serial Number|Setup ID|Use Adjustments|Slant Range (mm)|Radius (mm)"));
+}
+
+void tst_melvoxUiAntennaIdentification::captionsItsValues()
+{
+    melvoxUiAntennaIdentification_t page(device);
+    QCOMPARE(labelText(&page, "antRemoteNameTitleLabel"), QString("IGS Antenna:"));
+    QCOMPARE(labelText(&page, "antDualModeTitleLabel"), QString("Dual Antenna Mode:"));
+}
+
+void tst_melvoxUiAntennaIdentification::fitsItsColumnsToWhatTheyHold()
+{
+    melvoxUiAntennaIdentification_t page(device);
+    page.show();
+    reportInfo();
+    melvox_test::settle();
+    int const before = tree(&page)->header()->sectionSize(2);
+    receiver->report("antennaInfo", list(map("name", "NONE", "serial", QString(40, '8'), "id", 11),
+                                         map("name", "NONE", "serial", "s2", "id", 255)));
+    melvox_test::settle();
+    QVERIFY(tree(&page)->header()->sectionSize(2) > before);
+    reportInfo();
+    melvox_test::settle();
+    QCOMPARE(tree(&page)->header()->sectionSize(2), before);
 }
 
 void tst_melvoxUiAntennaIdentification::makesARowForEachAntenna()

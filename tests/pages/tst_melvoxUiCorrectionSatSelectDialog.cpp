@@ -41,8 +41,10 @@ private:
 
 private slots:
     void isTitledAfterTheSatellites();
+    void captionsAutoSelect();
     void offersNoAndYes();
     void namesItsColumns();
+    void fitsItsColumnsToWhatTheyHold();
     void listsWhatTheReceiverAlreadyTold();
     void listsNewSatellitesAsTheyAreTold();
     void writesTheLongitude_data();
@@ -68,6 +70,7 @@ private slots:
     void takesAutoSelectFromTheReceiver();
     void leavesAutoSelectAloneWhileTheReceiverHasNotToldIt();
     void selectsTheSatelliteInUse();
+    void selectsTheSatelliteInUseAlsoWithAutoSelect();
     void selectsNothingWhenTheSatelliteInUseIsNotListed();
     void selectsNothingWhenNoSatelliteIsInUse();
     void sendsTheSelectedSatelliteAndCloses();
@@ -130,6 +133,11 @@ void tst_melvoxUiCorrectionSatSelectDialog::isTitledAfterTheSatellites()
     QCOMPARE(find<QGroupBox>(dialog, "satSelectionGroup")->title(), QString("Satellite Selection"));
 }
 
+void tst_melvoxUiCorrectionSatSelectDialog::captionsAutoSelect()
+{
+    QCOMPARE(labelText(dialog, "autoSelectTitleLabel"), QString("Auto-Select:"));
+}
+
 void tst_melvoxUiCorrectionSatSelectDialog::offersNoAndYes()
 {
     QComboBox const* const combo = find<QComboBox>(dialog, "autoSelectCombo");
@@ -141,6 +149,20 @@ void tst_melvoxUiCorrectionSatSelectDialog::offersNoAndYes()
 void tst_melvoxUiCorrectionSatSelectDialog::namesItsColumns()
 {
     QCOMPARE(melvox_test::headerTexts(tree).join("|"), QString("ID|Longitude|Look Angle|Net|Attributes"));
+}
+
+void tst_melvoxUiCorrectionSatSelectDialog::fitsItsColumnsToWhatTheyHold()
+{
+    dialog->show();
+    receiver->report("correctionSats", list(sat(1, 0, 0, "", "")));
+    melvox_test::settle();
+    int const before = tree->header()->sectionSize(0);
+    tree->topLevelItem(0)->setText(0, QString(40, '8'));
+    melvox_test::settle();
+    QVERIFY(tree->header()->sectionSize(0) > before);
+    tree->topLevelItem(0)->setText(0, "1");
+    melvox_test::settle();
+    QCOMPARE(tree->header()->sectionSize(0), before);
 }
 
 void tst_melvoxUiCorrectionSatSelectDialog::listsWhatTheReceiverAlreadyTold()
@@ -385,6 +407,18 @@ void tst_melvoxUiCorrectionSatSelectDialog::selectsTheSatelliteInUse()
     QVERIFY(okEnabled());
 }
 
+void tst_melvoxUiCorrectionSatSelectDialog::selectsTheSatelliteInUseAlsoWithAutoSelect()
+{
+    reportFour();
+    reportInUse(46);
+    receiver->report("correctionSatSelection", map("auto", true, "id", 0));
+    dialog->setStateFromDevice();
+    QVERIFY(!tree->isEnabled());
+    QCOMPARE(selectedIds(), QString("46"));
+    choose(dialog, "autoSelectCombo", "No");
+    QVERIFY(okEnabled());
+}
+
 void tst_melvoxUiCorrectionSatSelectDialog::selectsNothingWhenTheSatelliteInUseIsNotListed()
 {
     reportFour();
@@ -449,8 +483,7 @@ void tst_melvoxUiCorrectionSatSelectDialog::asksForTheSatellites()
 {
     dialog->show();
     tap(dialog, "Query");
-    QCOMPARE(receiver->requests().first(), QString("correctionSats"));
-    QVERIFY(receiver->commands().isEmpty());
+    QCOMPARE(receiver->sent().join(";").trimmed(), QString("request correctionSats"));
     QVERIFY(dialog->isVisible());
 }
 

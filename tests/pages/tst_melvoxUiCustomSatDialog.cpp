@@ -18,6 +18,7 @@ private:
 
 private slots:
     void isTitledAfterTheSatellite();
+    void captionsItsValues();
     void showsNoDataAndItsFirstTextsBeforeTheFirstReport();
     void showsASatelliteThatWasDefinedBefore();
     void showsTheSatellite_data();
@@ -47,6 +48,12 @@ void tst_melvoxUiCustomSatDialog::tearDown()
 void tst_melvoxUiCustomSatDialog::isTitledAfterTheSatellite()
 {
     QCOMPARE(dialog->windowTitle(), QString("MELVOX Custom Satellite"));
+}
+
+void tst_melvoxUiCustomSatDialog::captionsItsValues()
+{
+    QCOMPARE(labelText(dialog, "idTitleLabel"), QString("ID:"));
+    QCOMPARE(labelText(dialog, "freqTitleLabel"), QString("Frequency (MHz):"));
 }
 
 void tst_melvoxUiCustomSatDialog::showsNoDataAndItsFirstTextsBeforeTheFirstReport()

@@ -39,6 +39,8 @@ private slots:
     void showsNoDataAndSendsOnlyTheNameBeforeTheFirstReport();
     void showsValuesThatTheProxyHeldBeforeThePageWasBuilt();
     void namesItsGroupsAndItems();
+    void captionsItsValues_data();
+    void captionsItsValues();
     void offersEveryPortButTheSecondUsbPort();
     void showsEachReportInItsLabel();
     void showsThePortOnlyOfABase();
@@ -52,6 +54,8 @@ private slots:
     void givesABaseAnIdForABlankOne();
     void givesTheVersionBackToARoverAndKeepsTheId();
     void letsOnlyARoverBeDynamic();
+    void showsABaseThatTheReceiverCallsDynamic();
+    void leavesAModeItDoesNotOfferUnchosenAndUnsent();
     void leavesAPortItDoesNotOfferUnchosenAndSendsTheFirst();
     void keepsThePortComboForARover();
     void sendsThePortOfEachItem_data();
@@ -160,6 +164,38 @@ void tst_melvoxUiDifferentialConfiguration::namesItsGroupsAndItems()
     QCOMPARE(items(&page, "diffModeCombo").join("|"), QString("%1|%2|%3").arg(ROVER, BASE_1, BASE_9));
     QCOMPARE(items(&page, "rtcmVersionCombo").join("|"), QString("3.2|2.3"));
     QCOMPARE(items(&page, "dynamicModeCombo").join("|"), QString("Static|Dynamic"));
+}
+
+void tst_melvoxUiDifferentialConfiguration::captionsItsValues_data()
+{
+    QTest::addColumn<QString>("group");
+    QTest::addColumn<QString>("caption");
+    QTest::newRow("diffModeTitleLabel") << "diffConfigGroup"
+                                        << "Mode:";
+    QTest::newRow("rtcmVersionTitleLabel") << "diffConfigGroup"
+                                           << "Input Version:";
+    QTest::newRow("outputPortTitleLabel") << "diffConfigGroup"
+                                          << "Base Output Port:";
+    QTest::newRow("stationIdTitleLabel") << "diffConfigGroup"
+                                         << "Station/Site ID:";
+    QTest::newRow("dynamicModeTitleLabel") << "diffConfigGroup"
+                                           << "Dynamic Mode:";
+    QTest::newRow("stationNameTitleLabel") << "basePositionGroup"
+                                           << "Name:";
+    QTest::newRow("latitudeTitleLabel") << "basePositionGroup"
+                                        << "Latitude:";
+    QTest::newRow("longitudeTitleLabel") << "basePositionGroup"
+                                         << "Longitude:";
+    QTest::newRow("heightTitleLabel") << "basePositionGroup"
+                                      << "Height:";
+}
+
+void tst_melvoxUiDifferentialConfiguration::captionsItsValues()
+{
+    QFETCH(QString, group);
+    QFETCH(QString, caption);
+    melvoxUiDifferentialConfiguration_t page(device);
+    QCOMPARE(labelText(find<QWidget>(&page, group), QTest::currentDataTag()), caption);
 }
 
 void tst_melvoxUiDifferentialConfiguration::offersEveryPortButTheSecondUsbPort()
@@ -332,6 +368,30 @@ void tst_melvoxUiDifferentialConfiguration::letsOnlyARoverBeDynamic()
     choose(&page, "diffModeCombo", ROVER);
     QCOMPARE(chosen(&page, "dynamicModeCombo"), QString("Static"));
     QVERIFY(isEnabled(&page, "dynamicModeCombo"));
+}
+
+void tst_melvoxUiDifferentialConfiguration::showsABaseThatTheReceiverCallsDynamic()
+{
+    melvoxUiDifferentialConfiguration_t page(device);
+    reportConfig(1, 5, true, MELVOX_PORT_COM2);
+    QCOMPARE(labelText(&page, "dynamicModeLabel"), QString("Dynamic"));
+    QCOMPARE(chosen(&page, "dynamicModeCombo"), QString("Dynamic"));
+    QVERIFY(!isEnabled(&page, "dynamicModeCombo"));
+    tap(&page, "Apply");
+    QCOMPARE(sentConfig(), QString("diffConfig dynamic=true mode=1 port=1 portSet=true stationId=5"));
+}
+
+void tst_melvoxUiDifferentialConfiguration::leavesAModeItDoesNotOfferUnchosenAndUnsent()
+{
+    melvoxUiDifferentialConfiguration_t page(device);
+    reportConfig(7, 5, true, MELVOX_PORT_COM2);
+    QCOMPARE(labelText(&page, "diffModeLabel"), QString());
+    QCOMPARE(find<QComboBox>(&page, "diffModeCombo")->currentIndex(), -1);
+    QVERIFY(!isEnabled(&page, "outputPortCombo"));
+    tap(&page, "Apply");
+    QCOMPARE(sentConfig(), QString());
+    QVERIFY(!receiver->requests().contains("outputs"));
+    QCOMPARE(reportedErrors(), QString());
 }
 
 void tst_melvoxUiDifferentialConfiguration::leavesAPortItDoesNotOfferUnchosenAndSendsTheFirst()
