@@ -113,7 +113,6 @@ void melvoxUiAntennaConfigDialog_t::submit()
     if (!readRange(ui.radiusLineEdit, ui.radiusSignCombo, height.radius))
         err << tr("Radius must be ") << RANGE_MIN << " - " << RANGE_MAX << endl;
 
-    err.flush();
     if (!err.isEmpty())
     {
         err.report();

@@ -56,6 +56,8 @@ private slots:
     void writesTheAttributes_data();
     void writesTheAttributes();
     void changesTheRowOfASatelliteThatChanged();
+    void changesARowForEachOfItsValues_data();
+    void changesARowForEachOfItsValues();
     void neverListsASatelliteTwice();
     void takesAwayASatelliteThatIsNoLongerKnown();
     void takesAwayTheSelectedSatelliteAndItsSelection();
@@ -270,6 +272,32 @@ void tst_melvoxUiCorrectionSatSelectDialog::changesTheRowOfASatelliteThatChanged
     receiver->report("correctionSats", list(sat(1, 10, 20, "12", "U"), sat(2, -12, 22, "2", "AC")));
     QCOMPARE(melvox_test::rowTexts(tree, 0).join("|"), QString("1| 10.0E| 20|1,2|U"));
     QCOMPARE(melvox_test::rowTexts(tree, 1).join("|"), QString("2| 12.0W| 22|2|A,C"));
+}
+
+void tst_melvoxUiCorrectionSatSelectDialog::changesARowForEachOfItsValues_data()
+{
+    QTest::addColumn<QString>("field");
+    QTest::addColumn<QVariant>("value");
+    QTest::addColumn<QString>("row");
+    QTest::newRow("longitude") << "longitude" << QVariant(-12.0) << "1| 12.0W| 20||";
+    QTest::newRow("look angle") << "lookAngle" << QVariant(21) << "1| 10.0E| 21||";
+    QTest::newRow("net 1") << "net1" << QVariant(true) << "1| 10.0E| 20|1|";
+    QTest::newRow("net 2") << "net2" << QVariant(true) << "1| 10.0E| 20|2|";
+    QTest::newRow("flag U") << "flagU" << QVariant(true) << "1| 10.0E| 20||U";
+    QTest::newRow("flag A") << "flagA" << QVariant(true) << "1| 10.0E| 20||A";
+    QTest::newRow("flag C") << "flagC" << QVariant(true) << "1| 10.0E| 20||C";
+}
+
+void tst_melvoxUiCorrectionSatSelectDialog::changesARowForEachOfItsValues()
+{
+    QFETCH(QString, field);
+    QFETCH(QVariant, value);
+    QFETCH(QString, row);
+    QVariantMap changing = sat(1, 10, 20, "", "");
+    receiver->report("correctionSats", list(changing));
+    changing[field] = value;
+    receiver->report("correctionSats", list(changing));
+    QCOMPARE(melvox_test::rowTexts(tree, 0).join("|"), row);
 }
 
 void tst_melvoxUiCorrectionSatSelectDialog::neverListsASatelliteTwice()

@@ -60,6 +60,8 @@ private slots:
     void showsNoneInUseAsZero();
     void showsNoneInUseAlsoWhenNoSatelliteIsLeft();
     void changesRowsInPlace();
+    void changesARowForEachOfItsValues_data();
+    void changesARowForEachOfItsValues();
     void neverShowsASatelliteTwice();
     void takesAwayASatelliteWithoutStatistics();
     void emptiesTheTableForEmptyStatistics();
@@ -352,6 +354,36 @@ void tst_melvoxUiCorrectionsReceiver::changesRowsInPlace()
     QCOMPARE(static_cast<QTreeWidgetItem const*>(tree(&page)->topLevelItem(1)), row);
     QCOMPARE(melvox_test::rowTexts(tree(&page), 1).join("|"),
              QString("30|No|AFC plus Costas pull-in|1.00|2.00|4.00%|97.00%|5"));
+}
+
+void tst_melvoxUiCorrectionsReceiver::changesARowForEachOfItsValues_data()
+{
+    QTest::addColumn<QString>("field");
+    QTest::addColumn<QString>("row");
+    QTest::newRow("status") << "status"
+                            << "30|Yes|Wait for AGC to settle|8.00|1.00|10.00%|50.00%|3";
+    QTest::newRow("SNR") << "strength"
+                         << "30|Yes|Locked|2.00|1.00|10.00%|50.00%|3";
+    QTest::newRow("AGC voltage") << "agcVoltage"
+                                 << "30|Yes|Locked|8.00|2.00|10.00%|50.00%|3";
+    QTest::newRow("idle packets") << "idlePercent"
+                                  << "30|Yes|Locked|8.00|1.00|2.00%|50.00%|3";
+    QTest::newRow("bad packets") << "goodPercent"
+                                 << "30|Yes|Locked|8.00|1.00|10.00%|98.00%|3";
+    QTest::newRow("resync count") << "resyncCount"
+                                  << "30|Yes|Locked|8.00|1.00|10.00%|50.00%|2";
+}
+
+void tst_melvoxUiCorrectionsReceiver::changesARowForEachOfItsValues()
+{
+    QFETCH(QString, field);
+    QFETCH(QString, row);
+    melvoxUiCorrectionsReceiver_t page(device);
+    QVariantMap sat = stat(30, 9, 8, 1, 50, 10, 3);
+    reportStats(30, list(sat));
+    sat[field] = 2;
+    reportStats(30, list(sat));
+    QCOMPARE(melvox_test::rowTexts(tree(&page), 0).join("|"), row);
 }
 
 void tst_melvoxUiCorrectionsReceiver::neverShowsASatelliteTwice()

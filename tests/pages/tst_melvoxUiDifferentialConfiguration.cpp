@@ -63,6 +63,7 @@ private slots:
     void acceptsAndRefusesStationIds_data();
     void acceptsAndRefusesStationIds();
     void countsABlankIdAsZero();
+    void marksThePortOfABaseAsSet();
     void sendsARoverWithThePortThatTheReceiverHad();
     void asksForTheOutputsRightAfterTheConfiguration();
     void sendsVersionAndNameAlsoWhenTheIdIsRefused();
@@ -485,6 +486,16 @@ void tst_melvoxUiDifferentialConfiguration::countsABlankIdAsZero()
     tap(&page, "Apply");
     QCOMPARE(sentConfig(), QString());
     QCOMPARE(reportedErrors(), QString("RTCM Station ID must be 1 - 1023\n"));
+}
+
+void tst_melvoxUiDifferentialConfiguration::marksThePortOfABaseAsSet()
+{
+    melvoxUiDifferentialConfiguration_t page(device);
+    reportConfig(0, 5, false, MELVOX_PORT_COM2, false);
+    choose(&page, "diffModeCombo", BASE_9);
+    choose(&page, "outputPortCombo", "USB1");
+    tap(&page, "Apply");
+    QCOMPARE(sentConfig(), QString("diffConfig dynamic=false mode=2 port=4 portSet=true stationId=5"));
 }
 
 void tst_melvoxUiDifferentialConfiguration::sendsARoverWithThePortThatTheReceiverHad()
