@@ -16,6 +16,7 @@ private:
 private slots:
     void tellsTheNamesAnewToAllDisplays();
     void refusesToTellNamesForNoReason();
+    void tellsNoMoreNamesAfterARestart();
     void hearsTheBaseStationsAntenna();
     void keepsAnAntennaThatWasChosen();
     void restsWhenAllIsTold();
@@ -48,6 +49,16 @@ void tst_antennasBehaviour::refusesToTellNamesForNoReason()
     QVERIFY(!receiver->setSituation("antennaNamesAnew", false));
     QVERIFY(!receiver->setSituation("antennaNamesAnew", 1));
     QVERIFY(display->messages.isEmpty());
+}
+
+void tst_antennasBehaviour::tellsNoMoreNamesAfterARestart()
+{
+    display->request("antennaList");
+    clock->advance(60);
+    QCOMPARE(int(told("antennaName").size()), 3);
+    receiver->restart();
+    clock->advance(1000);
+    QCOMPARE(int(told("antennaName").size()), 3);
 }
 
 void tst_antennasBehaviour::hearsTheBaseStationsAntenna()

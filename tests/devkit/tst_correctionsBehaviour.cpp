@@ -72,6 +72,7 @@ private slots:
     void hadAnAlmanacTheDayBefore();
     void takesTheAlmanacAfterThePolicysTime();
     void takesTheAlmanacAtOnceWithoutATime();
+    void takesAnAlmanacThatComesAtOnceWithoutATime();
     void leavesTheAlmanacToTheOperator();
     void takesTheAlmanacWhenTheOperatorSaysSo();
     void hasANewAlmanacADayLater();
@@ -390,6 +391,15 @@ void tst_correctionsBehaviour::takesTheAlmanacAtOnceWithoutATime()
     display->command("starfireAlmSwitchPolicy", policy(0, 0, 0));
     QVERIFY(!isReady());
     QCOMPARE(display->last("starfireAlmStatus").toMap().value("newReady"), QVariant(false));
+}
+
+void tst_correctionsBehaviour::takesAnAlmanacThatComesAtOnceWithoutATime()
+{
+    display->command("starfireAlmSwitchPolicy", policy(0, 0, 0));
+    clock->advance(HOUR);
+    QVERIFY(receiver->setSituation("newAlmanac", true));
+    QVERIFY(!isReady());
+    QCOMPARE(almanacTime(), clock->now());
 }
 
 void tst_correctionsBehaviour::leavesTheAlmanacToTheOperator()
