@@ -12,6 +12,7 @@
 #include "brel_common_qt/usbDriveManager.h"
 #include "brel_common_qt_gui/errorText.h"
 #include "brel_common_qt_gui/usbDriveSelectDialog.h"
+#include "melvox_ui/melvoxUiReceiverInformation.h"
 #include "melvox_ui/melvoxUiRtkConfiguration.h"
 #include "melvox_ui/melvoxUiWebInterface.h"
 #include "support/folder.h"
@@ -20,6 +21,7 @@
 #include <QScopedPointer>
 #include <QSignalSpy>
 #include <QTimer>
+#include <QTranslator>
 
 using namespace brel_common_qt;
 using namespace brel_common_qt_gui;
@@ -39,6 +41,17 @@ QWidget* makeWebPage(remoteMelvoxDevice_t* receiver, bool unitHasUsb, QScopedPoi
     if (unitHasUsb)
         drives.reset(new usbDriveManager_t);
     return new melvoxUiWebInterface_t(receiver);
+}
+// end
+
+// begin language
+/** Pages that are made from now on speak this language, such as "de_AT", if there are their texts in it. */
+bool speak(QString const& language, QString const& folder, QTranslator& texts)
+{
+    if (!texts.load("melvox_ui_" + language, folder))
+        return false;
+    qApp->installTranslator(&texts);
+    return true;
 }
 // end
 
@@ -78,6 +91,7 @@ private slots:
     void transfersWithTheLinkToItself();
     void givesUpWhenSomebodyElseHasTheLock();
     void followsAGroup();
+    void speaksALanguageThatThereIs();
 };
 
 void tst_samples::operatesAPage()
@@ -257,6 +271,19 @@ void tst_samples::followsAGroup()
     QCOMPARE(watch.text(), NoDataString);
     receiver->report("activePort", int(MELVOX_PORT_USB1));
     QCOMPARE(watch.text(), QString("USB1"));
+}
+
+void tst_samples::speaksALanguageThatThereIs()
+{
+    QString const question = "Toggle the LTE modem?";
+    QTranslator texts;
+    QVERIFY(!speak("xx", MELVOX_TRANSLATIONS, texts));
+    QCOMPARE(melvoxUiReceiverInformation_t::tr(qPrintable(question)), question);
+    // On Qt 4 the build makes no texts.
+    if (QT_VERSION < 0x050000)
+        return;
+    QVERIFY(speak("de_AT", MELVOX_TRANSLATIONS, texts));
+    QVERIFY(melvoxUiReceiverInformation_t::tr(qPrintable(question)) != question);
 }
 
 QTEST_MAIN(tst_samples)
