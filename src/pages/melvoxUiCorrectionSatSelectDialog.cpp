@@ -122,7 +122,6 @@ melvoxUiCorrectionSatSelectDialog_t::melvoxUiCorrectionSatSelectDialog_t(remoteM
 {
     Ui_melvoxUiCorrectionSatSelectDialog& ui = m_data->ui;
     ui.setupUi(this);
-    setResizeMode(ui.satTree->header(), QHeaderView::ResizeToContents);
     enlargeButtons(ui.buttonBox);
     addActionButton(ui.buttonBox, tr("Query"), this, SLOT(query()));
     connect(ui.buttonBox, SIGNAL(accepted()), SLOT(submit()));
@@ -135,6 +134,8 @@ melvoxUiCorrectionSatSelectDialog_t::melvoxUiCorrectionSatSelectDialog_t(remoteM
     updateAutoSelect();
     updateSatList();
     ui.satTree->sortItems(COLUMN_ID, Qt::AscendingOrder);
+    // Only now: to move the sort indicator of columns that fit their contents is to lay all of them out.
+    setResizeMode(ui.satTree->header(), QHeaderView::ResizeToContents);
     updateOkButton();
 }
 

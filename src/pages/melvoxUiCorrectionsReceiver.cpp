@@ -62,10 +62,14 @@ QString statusText(unsigned int status)
 /** The width of the longest status text; mostly no satellite has told anything yet when the columns are fitted. */
 int statusWidth(QFontMetrics const& metrics)
 {
-    int width = 0;
+    QString longest;
     for (unsigned int i = 0; i < NUM_STATUS_TEXTS; ++i)
-        width = qMax(width, metrics.boundingRect(statusText(i)).width());
-    return width;
+    {
+        QString const text = statusText(i);
+        if (text.size() > longest.size())
+            longest = text;
+    }
+    return metrics.boundingRect(longest).width();
 }
 
 void widen(QHeaderView* header, int column, int width)

@@ -52,8 +52,8 @@ void showError(QLabel* label, QString const& text)
 /** Components stand in the order of the package until the operator sorts them. */
 void prepareTree(QTreeWidget* tree)
 {
-    setResizeMode(tree->header(), QHeaderView::ResizeToContents);
     tree->sortByColumn(-1, Qt::AscendingOrder);
+    setResizeMode(tree->header(), QHeaderView::ResizeToContents);
 }
 
 } // namespace

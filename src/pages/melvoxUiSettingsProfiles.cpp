@@ -73,8 +73,8 @@ melvoxUiSettingsProfiles_t::privateData_t::~privateData_t()
 melvoxUiSettingsProfiles_t::melvoxUiSettingsProfiles_t(remoteMelvoxDevice_t* device) : m_data(new privateData_t(device))
 {
     m_data->ui.setupUi(this);
-    setResizeMode(m_data->ui.profileList->header(), QHeaderView::ResizeToContents);
     m_data->ui.profileList->sortByColumn(NAME_COLUMN, Qt::AscendingOrder);
+    setResizeMode(m_data->ui.profileList->header(), QHeaderView::ResizeToContents);
     m_data->dumper = new melvoxUiProfileDumper_t(device, this);
     m_data->loader = new melvoxUiProfileLoader_t(device, this);
     createButtons();

@@ -104,13 +104,13 @@ melvoxUiUsbFirmwareSelectDialog_t::melvoxUiUsbFirmwareSelectDialog_t(QWidget* pa
     : QDialog(parent), m_data(new privateData_t)
 {
     m_data->ui.setupUi(this);
-    setResizeMode(m_data->ui.treeWidget->header(), QHeaderView::ResizeToContents);
     // Or the last one is what is left over, even when that is less than its text needs.
     m_data->ui.treeWidget->header()->setStretchLastSection(false);
     m_data->scanner = new scanner_t(this);
     m_data->stopButton = addActionButton(m_data->ui.buttonBox, tr("Stop Scan"), nullptr, nullptr);
     m_data->selectButton = addActionButton(m_data->ui.buttonBox, tr("Select Package"), nullptr, nullptr);
     connectScanDialog(m_data->parts(this), SLOT(selectPackage()));
+    setResizeMode(m_data->ui.treeWidget->header(), QHeaderView::ResizeToContents);
     checkScanState();
 }
 

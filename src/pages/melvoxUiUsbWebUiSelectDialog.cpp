@@ -50,11 +50,11 @@ melvoxUiUsbWebUiSelectDialog_t::melvoxUiUsbWebUiSelectDialog_t(QWidget* parent)
     : QDialog(parent), m_data(new privateData_t)
 {
     m_data->ui.setupUi(this);
-    setResizeMode(m_data->ui.treeWidget->header(), QHeaderView::ResizeToContents);
     m_data->scanner = new scanner_t(this);
     m_data->stopButton = addActionButton(m_data->ui.buttonBox, tr("Stop Scan"), nullptr, nullptr);
     m_data->selectButton = addActionButton(m_data->ui.buttonBox, tr("Select Package"), nullptr, nullptr);
     connectScanDialog(m_data->parts(this), SLOT(selectPackage()));
+    setResizeMode(m_data->ui.treeWidget->header(), QHeaderView::ResizeToContents);
     checkScanState();
 }
 
