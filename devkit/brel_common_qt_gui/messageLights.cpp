@@ -5,6 +5,7 @@
 #include <QElapsedTimer>
 #include <QLabel>
 #include <QList>
+#include <QPalette>
 #include <QPointer>
 #include <QTimer>
 #include <QVariant>
@@ -16,6 +17,8 @@ namespace
 {
 
 int const LIT_MILLISECONDS = 500;
+QColor const LIT(0x00, 0xc0, 0x00);
+QColor const DARK(0x40, 0x40, 0x40);
 
 struct light_t
 {
@@ -28,8 +31,11 @@ void showLight(QLabel* label, bool lit)
 {
     label->setProperty("lit", lit);
     label->setAccessibleDescription(lit ? messageLights_t::tr("Active") : messageLights_t::tr("Idle"));
-    label->setStyleSheet(
-        QLatin1String(lit ? "QLabel { background-color:#00c000; }" : "QLabel { background-color:#404040; }"));
+    // Not by a style sheet: Qt makes a style of its own for each widget that has one.
+    QPalette palette = label->palette();
+    palette.setColor(QPalette::Window, lit ? LIT : DARK);
+    label->setPalette(palette);
+    label->setAutoFillBackground(true);
 }
 
 } // namespace
@@ -77,7 +83,7 @@ void messageLights_t::light(int stream)
         light_t& light = m_data->lights[i];
         if (light.stream != stream || !light.label)
             continue;
-        // A new style costs far more than a message that comes while the light is lit should.
+        // A message that comes while the light is lit changes nothing.
         if (!light.lit.isValid())
             showLight(light.label, true);
         light.lit.start();
