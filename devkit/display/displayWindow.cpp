@@ -25,15 +25,12 @@ QSize const SMALLEST_SCREEN(640, 400);
 
 displayWindow_t::displayWindow_t(pageRegistry_t const& pages, unit_t* unit, uiSettings_t* settings,
                                  QSize const& screenSize, simulation_t* simulation)
-    : m_pages(pages), m_unit(unit), m_settings(settings), m_screen(nullptr),
-      m_model(new monitorModel_t(MONITOR_ROWS, this)), m_monitor(new linkMonitor_t(m_model, this)),
-      m_panel(simulation ? new receiverPanel_t(simulation, this) : nullptr), m_side(nullptr), m_beside(false)
+    : m_pages(pages), m_unit(unit), m_settings(settings), m_screen(nullptr), m_simulation(simulation),
+      m_model(new monitorModel_t(MONITOR_ROWS, this)), m_monitor(nullptr), m_panel(nullptr), m_side(nullptr),
+      m_beside(false)
 {
     setWindowTitle(tr("Melvox Display"));
     setMinimumSize(SMALLEST_SCREEN);
-    m_monitor->hide();
-    if (m_panel)
-        m_panel->hide();
     createScreen();
     connect(m_unit->tap(), &melvox_link::linkTap_t::passed, m_model, &monitorModel_t::add);
     connect(m_unit, &unit_t::linkStateChanged, this, &displayWindow_t::showLink);
@@ -53,7 +50,7 @@ void displayWindow_t::addShortcut(Qt::Key key, void (displayWindow_t::*act)())
 void displayWindow_t::createScreen()
 {
     m_screen = new screen_t(m_pages, m_unit->device(), m_settings, this);
-    m_screen->strip()->setPanelOffered(m_panel != nullptr);
+    m_screen->strip()->setPanelOffered(m_simulation != nullptr);
     connect(m_screen->strip(), &statusStrip_t::monitorToggled, this, &displayWindow_t::toggleMonitor);
     connect(m_screen->strip(), &statusStrip_t::panelToggled, this, &displayWindow_t::togglePanel);
     showLink();
@@ -93,9 +90,29 @@ void displayWindow_t::showFirstPage(QString const& name)
         m_screen->showPage(name);
 }
 
+linkMonitor_t* displayWindow_t::monitor()
+{
+    if (!m_monitor)
+    {
+        m_monitor = new linkMonitor_t(m_model, this);
+        m_monitor->hide();
+    }
+    return m_monitor;
+}
+
+receiverPanel_t* displayWindow_t::panel()
+{
+    if (!m_panel && m_simulation)
+    {
+        m_panel = new receiverPanel_t(m_simulation, this);
+        m_panel->hide();
+    }
+    return m_panel;
+}
+
 bool displayWindow_t::isMonitorShown() const
 {
-    return !m_monitor->isHidden();
+    return m_monitor && !m_monitor->isHidden();
 }
 
 bool displayWindow_t::fitsBeside() const
@@ -110,13 +127,13 @@ bool displayWindow_t::isPanelShown() const
 
 void displayWindow_t::toggleMonitor()
 {
-    showSide(isMonitorShown() ? nullptr : m_monitor);
+    showSide(isMonitorShown() ? nullptr : monitor());
 }
 
 void displayWindow_t::togglePanel()
 {
-    if (m_panel)
-        showSide(isPanelShown() ? nullptr : m_panel);
+    if (m_simulation)
+        showSide(isPanelShown() ? nullptr : panel());
 }
 
 void displayWindow_t::showSide(QWidget* side)
@@ -125,7 +142,8 @@ void displayWindow_t::showSide(QWidget* side)
     m_side = side;
     m_beside = side && fitsBeside();
     int const change = (int(m_beside) - int(wasBeside)) * SIDE_WIDTH;
-    m_monitor->setVisible(side == m_monitor);
+    if (m_monitor)
+        m_monitor->setVisible(side == m_monitor);
     if (m_panel)
         m_panel->setVisible(side == m_panel);
     m_screen->strip()->setMonitorShown(isMonitorShown());

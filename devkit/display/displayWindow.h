@@ -33,9 +33,11 @@ public:
     /** Another one once the unit has another proxy. */
     screen_t* screen() const { return m_screen; }
     pageRegistry_t const& pages() const { return m_pages; }
-    linkMonitor_t* monitor() const { return m_monitor; }
+    /** Made when it is asked for: who only shows the unit does without. */
+    linkMonitor_t* monitor();
     bool isMonitorShown() const;
-    receiverPanel_t* panel() const { return m_panel; }
+    /** Likewise; null without a simulation. */
+    receiverPanel_t* panel();
     bool isPanelShown() const;
 
     /** The page by this name, or else the last one, or else the first. */
@@ -64,6 +66,7 @@ private:
     unit_t* m_unit;
     uiSettings_t* m_settings;
     screen_t* m_screen;
+    simulation_t* m_simulation;
     monitorModel_t* m_model;
     linkMonitor_t* m_monitor;
     receiverPanel_t* m_panel;

@@ -162,7 +162,7 @@ private slots:
     void monitorShowsWhatPassesOverTheLink()
     {
         fixture_t f;
-        QTableView* table = f.window.findChild<QTableView*>("monitorTable");
+        QTableView* table = f.window.monitor()->findChild<QTableView*>("monitorTable");
         QVERIFY(melvox_test::waitFor([&]() { return table->model()->rowCount() > 20; }));
         QStringList rows;
         for (int row = 0; row < table->model()->rowCount(); ++row)
