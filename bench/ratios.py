@@ -20,7 +20,7 @@ MICROSECONDS = {"ns": 1e-3, "us": 1, "ms": 1e3, "s": 1e6}
 def medians(program, repetitions, held):
     out = subprocess.run(
         [program, f"--benchmark_repetitions={repetitions}", "--benchmark_report_aggregates_only=true",
-         "--benchmark_format=json", "--benchmark_enable_random_interleaving=true", "--benchmark_min_time=0.05"],
+         "--benchmark_format=json", "--benchmark_enable_random_interleaving=true", "--benchmark_min_time=0.02"],
         check=True, stdout=subprocess.PIPE, text=True).stdout
     for run in json.loads(out)["benchmarks"]:
         if run.get("aggregate_name") == "median":
