@@ -1,4 +1,5 @@
 #include "firmware/firmwareFile.h"
+#include "firmware/programOptions.h"
 
 #include <QCommandLineParser>
 #include <QCoreApplication>
@@ -162,6 +163,16 @@ int run(QCommandLineParser const& parser)
                                    "more."));
 }
 
+QList<QCommandLineOption> knownOptions()
+{
+    return {
+        {{"h", "help"}, tr("Lists the options.")},
+        {{"v", "version"}, tr("Prints the version.")},
+        {"product", tr("The product that the components are made for, 8 unless told."), "number", "8"},
+        {"size", tr("Kilobytes of each component, 16 unless told."), "kilobytes", "16"},
+    };
+}
+
 } // namespace
 
 int main(int argc, char** argv)
@@ -173,20 +184,16 @@ int main(int argc, char** argv)
     QCommandLineParser parser;
     parser.setApplicationDescription(
         tr("Makes, lists and checks firmware packages: S-record files of one or more components."));
-    QCommandLineOption const help({"h", "help"}, tr("Lists the options."));
-    parser.addOption(help);
-    QCommandLineOption const version = parser.addVersionOption();
-    parser.addOption({"product", tr("The product that the components are made for, 8 unless told."), "number", "8"});
-    parser.addOption({"size", tr("Kilobytes of each component, 16 unless told."), "kilobytes", "16"});
+    parser.addOptions(knownOptions());
     parser.addPositionalArgument("what", tr("make, list or check"), "make|list|check");
     parser.addPositionalArgument("file", tr("the package; list and check take several"));
     parser.addPositionalArgument("component", tr("for make: its name and version, such as NAV=1.14.33"),
                                  "[COMPONENT=VERSION...]");
     if (!parser.parse(QCoreApplication::arguments()))
-        return fail(EXIT_WRONG_USE, parser.errorText());
-    if (parser.isSet(version))
+        return fail(EXIT_WRONG_USE, melvox_firmware::misunderstood(parser.errorText(), knownOptions()));
+    if (parser.isSet("version"))
         parser.showVersion();
-    if (parser.isSet(help))
+    if (parser.isSet("help"))
         parser.showHelp();
     return run(parser);
 }

@@ -1,3 +1,4 @@
+#include "firmware/programOptions.h"
 #include "link/ptyPort.h"
 #include "link/serialLink.h"
 #include "link/tcpServer.h"
@@ -226,6 +227,26 @@ bool readPlay(QCommandLineParser const& parser, play_t& play, QString& error)
     return melvox_scenarios::loadScenario(parser.value("scenario"), *play.scenario, error);
 }
 
+QList<QCommandLineOption> knownOptions()
+{
+    // Help is not the parser's own, which promises more of Qt's options than there are.
+    return {
+        {{"h", "help"}, tr("Lists the options.")},
+        {{"v", "version"}, tr("Prints the version.")},
+        {"tcp", tr("Listen on a TCP port of this machine, 0: any that is free."), "[address:]port"},
+        {"pty", tr("Make a pseudo-terminal, a serial line without wires.")},
+        {"serial", tr("Use a serial device."), "device"},
+        {"output",
+         tr("Let other programs read what the receiver puts out on a port, COM1 to ETH8, over TCP or a "
+            "pseudo-terminal."),
+         "port=tcp:[address:]port|port=pty"},
+        {"profiles", tr("Keep the profiles in this folder; without it they are forgotten in the end."), "folder"},
+        {"scenario", tr("Start in this situation, one of the kit's or one from a file."), "name|file"},
+        {"speed", tr("Let the time run so many times as fast."), "number"},
+        {"quiet", tr("Tell nothing unless asked, and put nothing out unless there is an --output.")},
+    };
+}
+
 } // namespace
 
 int main(int argc, char** argv)
@@ -237,37 +258,17 @@ int main(int argc, char** argv)
     QCommandLineParser parser;
     parser.setApplicationDescription(tr("A simulated Melvox receiver. Displays reach it at the places that the options "
                                         "name; each may be given several times."));
-    // Not addHelpOption(), which promises more of Qt's own options than there are.
-    QCommandLineOption const help({"h", "help"}, tr("Lists the options."));
-    parser.addOption(help);
-    QCommandLineOption const version = parser.addVersionOption();
-    parser.addOption({"tcp", tr("Listen on a TCP port of this machine, 0: any that is free."), "[address:]port"});
-    parser.addOption({"pty", tr("Make a pseudo-terminal, a serial line without wires.")});
-    parser.addOption({"serial", tr("Use a serial device."), "device"});
-    parser.addOption({"output",
-                      tr("Let other programs read what the receiver puts out on a port, COM1 to ETH8, over TCP or a "
-                         "pseudo-terminal."),
-                      "port=tcp:[address:]port|port=pty"});
-    parser.addOption(
-        {"profiles", tr("Keep the profiles in this folder; without it they are forgotten in the end."), "folder"});
-    parser.addOption({"scenario", tr("Start in this situation, one of the kit's or one from a file."), "name|file"});
-    parser.addOption({"speed", tr("Let the time run so many times as fast."), "number"});
-    parser.addOption({"quiet", tr("Tell nothing unless asked, and put nothing out unless there is an --output.")});
-
+    parser.addOptions(knownOptions());
     if (!parser.parse(QCoreApplication::arguments()))
-    {
-        QString text = parser.errorText();
-        if (text.endsWith('.'))
-            text.chop(1);
-        return fail(EXIT_WRONG_USE, tr("%1; --help lists the options.").arg(text));
-    }
-    if (parser.isSet(version))
+        return fail(EXIT_WRONG_USE, melvox_firmware::misunderstood(parser.errorText(), knownOptions()));
+    if (parser.isSet("version"))
         parser.showVersion();
-    if (parser.isSet(help))
+    if (parser.isSet("help"))
         parser.showHelp();
     if (!parser.positionalArguments().isEmpty())
         return fail(EXIT_WRONG_USE,
-                    tr("\"%1\" is no option; --help lists the options.").arg(parser.positionalArguments().first()));
+                    melvox_firmware::misunderstood(tr("\"%1\" is no option").arg(parser.positionalArguments().first()),
+                                                   knownOptions()));
     if (!parser.isSet("tcp") && !parser.isSet("pty") && !parser.isSet("serial"))
         return fail(EXIT_WRONG_USE, tr("say where displays reach the receiver, with --tcp PORT, --pty or --serial "
                                        "DEVICE."));

@@ -272,7 +272,7 @@ void tst_receiverProgram::saysInOneSentenceWhatIsWrong_data()
     QTest::addColumn<int>("code");
     QTest::addColumn<QString>("part");
     QTest::newRow("no option") << QStringList() << 2 << "--tcp PORT, --pty or --serial DEVICE";
-    QTest::newRow("unknown option") << QStringList{"--bluetooth"} << 2 << "bluetooth";
+    QTest::newRow("unknown option") << QStringList{"--bluetooth"} << 2 << "--scenario, --speed, --quiet.";
     QTest::newRow("no option but a word") << QStringList{"5000"} << 2 << "\"5000\"";
     QTest::newRow("no port") << QStringList{"--tcp"} << 2 << "--tcp";
     QTest::newRow("no scenario") << QStringList{"--pty", "--scenario", "rain"} << 2
