@@ -134,7 +134,6 @@ melvoxUiCorrectionSatSelectDialog_t::melvoxUiCorrectionSatSelectDialog_t(remoteM
     updateAutoSelect();
     updateSatList();
     ui.satTree->sortItems(COLUMN_ID, Qt::AscendingOrder);
-    // Only now: to move the sort indicator of columns that fit their contents is to lay all of them out.
     setResizeMode(ui.satTree->header(), QHeaderView::ResizeToContents);
     updateOkButton();
 }

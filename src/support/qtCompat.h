@@ -14,6 +14,8 @@ using Qt::endl;
 using ::endl;
 #endif
 
+/** Columns are made to fit their contents after the first sort: to move the sort indicator of columns that fit is to lay
+ *  all of them out. */
 inline void setResizeMode(QHeaderView* header, QHeaderView::ResizeMode mode)
 {
 #if QT_VERSION >= 0x050000
