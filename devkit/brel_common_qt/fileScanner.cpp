@@ -2,6 +2,7 @@
 
 #include "scanStop.h"
 
+#include <QBasicTimer>
 #include <QCoreApplication>
 #include <QDir>
 #include <QDirIterator>
@@ -12,6 +13,7 @@
 #include <QSet>
 #include <QStringList>
 #include <QThread>
+#include <QTimerEvent>
 
 #include <atomic>
 
@@ -24,6 +26,9 @@ namespace
 // What the scanning thread tells the scanner's own.
 QEvent::Type const FILES_RECEIVED = QEvent::User;
 QEvent::Type const SCAN_FINISHED = QEvent::Type(QEvent::User + 1);
+
+// Files that are found in quick succession are told of together: to be woken for each costs more than to find it.
+int const PAUSE_MILLISECONDS = 20;
 
 } // namespace
 
@@ -59,22 +64,28 @@ struct fileScanner_t::privateData_t : public QObject
     };
 
     explicit privateData_t(fileScanner_t* scanner_)
-        : scanner(scanner_), walker(this), stopped(false), scanning(false), told(false)
+        : scanner(scanner_), walker(this), stopped(false), scanning(false), hasNews(false), willTell(false)
     {
     }
 
     void customEvent(QEvent* event) override;
+    void timerEvent(QTimerEvent* event) override;
+    void addFile(scanFile_t* file);
+    void tellTheLast();
+    void tell();
     void deleteWaiting();
 
     fileScanner_t* scanner;
     QStringList paths;
     walker_t walker;
     std::atomic<bool> stopped;
-    bool scanning; //!< of the scanner's own thread alone
+    bool scanning; //!< of the scanner's own thread alone, as is the pause
+    QBasicTimer pause;
 
     QMutex mutex; // for what follows
     QList<scanFile_t*> waiting;
-    bool told; //!< FILES_RECEIVED is under way
+    bool hasNews;  //!< something waits that was not told of
+    bool willTell; //!< FILES_RECEIVED is under way, or the pause runs
 };
 
 void fileScanner_t::privateData_t::walker_t::run()
@@ -86,6 +97,7 @@ void fileScanner_t::privateData_t::walker_t::run()
         visit(QFileInfo(QDir::cleanPath(roots.at(i))));
     while (!m_toEnter.isEmpty() && !m_data->stopped)
         enter(m_toEnter.takeFirst());
+    m_data->tellTheLast();
     QCoreApplication::postEvent(m_data, new QEvent(SCAN_FINISHED));
 }
 
@@ -121,13 +133,7 @@ void fileScanner_t::privateData_t::customEvent(QEvent* event)
 {
     if (event->type() == FILES_RECEIVED)
     {
-        {
-            QMutexLocker lock(&mutex);
-            told = false;
-            if (waiting.isEmpty())
-                return;
-        }
-        emit scanner->filesReceived();
+        tell();
     }
     else if (event->type() == SCAN_FINISHED)
     {
@@ -137,11 +143,54 @@ void fileScanner_t::privateData_t::customEvent(QEvent* event)
     }
 }
 
+void fileScanner_t::privateData_t::timerEvent(QTimerEvent* event)
+{
+    if (event->timerId() != pause.timerId())
+        return;
+    pause.stop();
+    tell();
+}
+
+/** In the scanning thread, as the next. */
+void fileScanner_t::privateData_t::addFile(scanFile_t* file)
+{
+    QMutexLocker lock(&mutex);
+    waiting << file;
+    hasNews = true;
+    if (willTell)
+        return;
+    willTell = true;
+    QCoreApplication::postEvent(this, new QEvent(FILES_RECEIVED));
+}
+
+/** Ends the pause, so that what was found last is known before the end is. */
+void fileScanner_t::privateData_t::tellTheLast()
+{
+    QMutexLocker lock(&mutex);
+    if (hasNews)
+        QCoreApplication::postEvent(this, new QEvent(FILES_RECEIVED));
+}
+
+void fileScanner_t::privateData_t::tell()
+{
+    {
+        QMutexLocker lock(&mutex);
+        // Somebody may have taken them without being told.
+        willTell = hasNews && !waiting.isEmpty();
+        hasNews = false;
+        if (!willTell)
+            return;
+    }
+    pause.start(PAUSE_MILLISECONDS, this);
+    emit scanner->filesReceived();
+}
+
 void fileScanner_t::privateData_t::deleteWaiting()
 {
     QMutexLocker lock(&mutex);
     qDeleteAll(waiting);
     waiting.clear();
+    hasNews = false;
 }
 
 fileScanner_t::fileScanner_t(QObject* parent) : QObject(parent), m_data(new privateData_t(this))
@@ -196,12 +245,7 @@ void fileScanner_t::cancelScan()
 
 void fileScanner_t::postFile(scanFile_t* file)
 {
-    QMutexLocker lock(&m_data->mutex);
-    m_data->waiting << file;
-    if (m_data->told)
-        return;
-    m_data->told = true;
-    QCoreApplication::postEvent(m_data, new QEvent(FILES_RECEIVED));
+    m_data->addFile(file);
 }
 
 void fileScanner_t::stopScan()

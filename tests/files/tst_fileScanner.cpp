@@ -119,6 +119,9 @@ private slots:
     void tellsThatItStartedAndThatItFinished();
     void handsOnWhatItFindsBeforeItHasFinished();
     void tellsOfTheLastFilesBeforeItFinishes();
+    void tellsOfManyFilesAtATime();
+    void staysSilentWhenNothingMoreIsFound();
+    void saysNothingOfFilesThatWereTakenAlready();
     void findsNothingInAnEmptyFolder();
     void passesRootsOverThatAreNotThere();
     void showsTheRootItselfToTheFilter();
@@ -230,6 +233,64 @@ void tst_fileScanner::tellsOfTheLastFilesBeforeItFinishes()
             return finished.count() > 0;
         }));
     QCOMPARE(taken, 50);
+}
+
+void tst_fileScanner::tellsOfManyFilesAtATime()
+{
+    folder_t folder;
+    for (int i = 0; i < 1000; ++i)
+        folder.write(QString::number(i));
+    anyFile_t scanner;
+    QSignalSpy received(&scanner, SIGNAL(filesReceived()));
+    scanner.addPath(folder.path());
+    QElapsedTimer time;
+    time.start();
+    scanner.startScan();
+    QVERIFY(finish(scanner));
+    QCOMPARE(int(scanner.takeNames().size()), 1000);
+    // At first, at the end, and not more often than every hundredth of a second between.
+    QVERIFY2(received.count() <= time.elapsed() / 10 + 2, qPrintable(QString::number(received.count())));
+}
+
+void tst_fileScanner::staysSilentWhenNothingMoreIsFound()
+{
+    folder_t folder;
+    folder.write("a.txt");
+    folder.write("b.txt");
+    anyFile_t scanner;
+    scanner.held = true;
+    QSignalSpy received(&scanner, SIGNAL(filesReceived()));
+    scanner.addPath(folder.path());
+    scanner.startScan();
+    scanner.go.release(2); // the folder and one file
+    QVERIFY(waitFor([&] { return received.count() > 0; }));
+    QElapsedTimer time;
+    time.start();
+    QVERIFY(waitFor([&] { return time.elapsed() > 100; }));
+    QCOMPARE(int(received.count()), 1);
+    scanner.go.release();
+    QVERIFY(finish(scanner));
+    QCOMPARE(int(received.count()), 2);
+}
+
+void tst_fileScanner::saysNothingOfFilesThatWereTakenAlready()
+{
+    folder_t folder;
+    folder.write("a.txt");
+    folder.write("b.txt");
+    anyFile_t scanner;
+    scanner.held = true;
+    QSignalSpy received(&scanner, SIGNAL(filesReceived()));
+    scanner.addPath(folder.path());
+    scanner.startScan();
+    scanner.go.release(2);
+    scanner.came.acquire(3); // one file is posted, and nothing was told yet
+    QCOMPARE(int(scanner.takeNames().size()), 1);
+    QCoreApplication::processEvents();
+    QCOMPARE(int(received.count()), 0);
+    scanner.go.release();
+    QVERIFY(finish(scanner));
+    QCOMPARE(int(received.count()), 1);
 }
 
 void tst_fileScanner::findsNothingInAnEmptyFolder()
