@@ -13,19 +13,12 @@ namespace melvox_display
 {
 
 keypad_t::keypad_t(QWidget* screen, QWidget* parent)
-    : QFrame(parent), m_screen(screen), m_entry(new lineEntry_t(this)), m_numericPad(new numericPad_t(m_entry, this)),
-      m_fullPad(new fullPad_t(m_entry, this)), m_pad(nullptr), m_leaving(false)
+    : QFrame(parent), m_screen(screen), m_entry(new lineEntry_t(this)), m_numericPad(nullptr), m_fullPad(nullptr),
+      m_pad(nullptr), m_compact(false), m_leaving(false)
 {
     setObjectName("keypad");
     QVBoxLayout* layout = new QVBoxLayout(this);
     layout->setContentsMargins(12, 10, 12, 10);
-    for (pad_t* pad : {static_cast<pad_t*>(m_numericPad), static_cast<pad_t*>(m_fullPad)})
-    {
-        layout->addWidget(pad);
-        pad->hide();
-        connect(pad, &pad_t::accepted, this, &keypad_t::accept);
-        connect(pad, &pad_t::cancelled, this, &keypad_t::cancel);
-    }
     connect(m_entry, &lineEntry_t::changed, this,
             [this]()
             {
@@ -54,7 +47,38 @@ QLineEdit* keypad_t::edit() const
 
 void keypad_t::setCompact(bool compact)
 {
-    m_fullPad->setCompact(compact);
+    m_compact = compact;
+    if (m_fullPad)
+        m_fullPad->setCompact(compact);
+}
+
+// The display starts sooner without the pads' sixty keys.
+pad_t* keypad_t::numericPad()
+{
+    if (!m_numericPad)
+    {
+        m_numericPad = new numericPad_t(m_entry, this);
+        addPad(m_numericPad);
+    }
+    return m_numericPad;
+}
+
+pad_t* keypad_t::fullPad()
+{
+    if (!m_fullPad)
+    {
+        m_fullPad = new fullPad_t(m_entry, this);
+        m_fullPad->setCompact(m_compact);
+        addPad(m_fullPad);
+    }
+    return m_fullPad;
+}
+
+void keypad_t::addPad(pad_t* pad)
+{
+    layout()->addWidget(pad);
+    connect(pad, &pad_t::accepted, this, &keypad_t::accept);
+    connect(pad, &pad_t::cancelled, this, &keypad_t::cancel);
 }
 
 void keypad_t::open(QLineEdit* edit)
@@ -73,7 +97,7 @@ void keypad_t::open(QLineEdit* edit)
     // A number is mostly entered anew, a name corrected.
     if (numeric)
         edit->selectAll();
-    m_pad = numeric ? static_cast<pad_t*>(m_numericPad) : static_cast<pad_t*>(m_fullPad);
+    m_pad = numeric ? numericPad() : fullPad();
     m_pad->start(lineEntry_t::promptOf(edit));
     m_pad->show();
     show();

@@ -46,6 +46,9 @@ signals:
     void closed();
 
 private:
+    pad_t* numericPad();
+    pad_t* fullPad();
+    void addPad(pad_t* pad);
     bool canBeEdited(QLineEdit* edit) const;
     bool filterEdit(QEvent* event);
     void filterTap(QObject* object, QEvent* event);
@@ -55,9 +58,10 @@ private:
 
     QWidget* m_screen;
     lineEntry_t* m_entry;
-    numericPad_t* m_numericPad;
-    fullPad_t* m_fullPad;
-    pad_t* m_pad;
+    numericPad_t* m_numericPad; //!< none before the first number
+    fullPad_t* m_fullPad;       //!< none before the first text
+    pad_t* m_pad;               //!< the open one
+    bool m_compact;
     // Not as a line edit: while it is being destroyed it is none any more.
     QPointer<QWidget> m_edit;
     bool m_leaving;

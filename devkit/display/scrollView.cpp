@@ -56,12 +56,13 @@ QScrollArea* createScrollView(QWidget* content, QWidget* parent)
     holder->setObjectName("pageHolder");
     QVBoxLayout* layout = new QVBoxLayout(holder);
     layout->setContentsMargins(0, 0, 0, 0);
+    // Empty: with each change of parent, Qt asks the style sheet again about every widget below.
+    area->setWidget(holder);
     layout->addWidget(content);
     leaveOutMissingTitles(content);
     // A tap beside everything leaves the field one was in.
     holder->setFocusPolicy(Qt::ClickFocus);
     area->setFocusProxy(holder);
-    area->setWidget(holder);
     scrollByFinger(area);
     return area;
 }

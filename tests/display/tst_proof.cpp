@@ -330,7 +330,8 @@ QString operator_t::enterInto(QLineEdit* edit)
     QString const before = edit->text();
     int const length = edit->displayText().size();
     QString const mask = edit->inputMask();
-    bool const numeric = m_screen.keypad()->findChild<QWidget*>("numericPad")->isVisible();
+    QWidget* const numericPad = m_screen.keypad()->findChild<QWidget*>("numericPad");
+    bool const numeric = numericPad && numericPad->isVisible();
     QString const keys = numeric ? otherKey(before) + " done" : "clear a b done";
     QString const fault = melvox_test::pressKeys(m_screen.keypad(), keys);
     if (!fault.isEmpty())
