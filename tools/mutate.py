@@ -1,5 +1,6 @@
 """Changes the pages one place at a time and asks their tests; see tools/mutate."""
 import argparse
+import concurrent.futures
 import json
 import os
 import pathlib
@@ -61,20 +62,19 @@ class Workshop:
         self.build = build
         commands = json.loads((build / "compile_commands.json").read_text())
         self.commands = {pathlib.Path(entry["file"]): entry for entry in commands}
-        self.folder = pathlib.Path(tempfile.mkdtemp(prefix="mutate-"))
         self.environment = dict(os.environ, QT_QPA_PLATFORM="offscreen", TZ="UTC", LC_ALL="C.UTF-8")
 
     def build_targets(self, targets):
         subprocess.run(["cmake", "--build", self.build, "--target", *targets], check=True, stdout=subprocess.DEVNULL)
 
-    def library_with(self, source, text):
+    def library_with(self, source, text, folder):
         """The library with another text of one source; nothing when it does not compile."""
-        changed = self.folder / source.name
+        changed = folder / source.name
         changed.write_text(text)
         entry = self.commands[source]
         words = [word for word in shlex.split(entry["command"]) if not word.endswith("ccache")]
         original = (self.build / words[words.index("-o") + 1]).resolve()
-        made = self.folder / "changed.o"
+        made = folder / "changed.o"
         words[words.index("-o") + 1] = str(made)
         words = [str(changed) if word == str(source) else word for word in words]
         # A change may leave something unused; whether it is noticed is for the test to say.
@@ -83,12 +83,18 @@ class Workshop:
         objects = [str(path) for path in self.objects() if path.resolve() != original]
         # By this name the test asks for the library, and takes the one that is there already.
         name = os.readlink(next((self.build / "lib").glob("libmelvox_ui*.so")))
-        library = self.folder / name
+        library = folder / name
         subprocess.run(["c++", "-shared", f"-Wl,-soname,{name}", "-o", library, made, *objects], check=True)
         return library
 
     def objects(self):
         return sorted((self.build / "src" / "CMakeFiles" / "melvox_ui.dir").rglob("*.o"))
+
+    def notices(self, test, source, text):
+        """Does the test fail with another text of a source? Nothing when that does not compile."""
+        with tempfile.TemporaryDirectory(prefix="mutate-") as folder:
+            library = self.library_with(source, text, pathlib.Path(folder))
+            return None if library is None else not self.passes(test, library)
 
     def passes(self, test, library):
         environment = dict(self.environment, LD_PRELOAD=str(library)) if library else self.environment
@@ -106,7 +112,7 @@ def told(source, text, change):
     return f"{source.relative_to(ROOT)}:{line}: {text[start:end].strip()}  ->  {instead.strip() or '(nothing)'}"
 
 
-def check_page(shop, page, count, chance):
+def check_page(shop, page, count, jobs, chance):
     source = ROOT / "src" / "pages" / f"{page}.cpp"
     test = f"tst_{page}"
     text = source.read_text()
@@ -115,16 +121,11 @@ def check_page(shop, page, count, chance):
     changes = changes_of(text)
     if count and len(changes) > count:
         changes = sorted(chance.sample(changes, count))
-    killed, survivors = 0, []
-    for change in changes:
-        start, end, instead = change
-        library = shop.library_with(source, text[:start] + instead + text[end:])
-        if library is None:
-            continue
-        if shop.passes(test, library):
-            survivors.append(told(source, text, change))
-        else:
-            killed += 1
+    texts = [text[:start] + instead + text[end:] for start, end, instead in changes]
+    with concurrent.futures.ThreadPoolExecutor(jobs) as pool:
+        noticed = list(pool.map(lambda changed: shop.notices(test, source, changed), texts))
+    killed = noticed.count(True)
+    survivors = [told(source, text, change) for change, was in zip(changes, noticed) if was is False]
     return killed, survivors
 
 
@@ -134,6 +135,7 @@ def main():
     parser.add_argument("pages", nargs="*", metavar="PAGE", help="such as melvoxUiSolutionControl; all unless told")
     parser.add_argument("--changes", type=int, default=20, help="changes drawn of each page; 0: all")
     parser.add_argument("--seed", type=int, default=1)
+    parser.add_argument("--jobs", type=int, default=os.cpu_count(), help="changes tried at the same time")
     options = parser.parse_intermixed_args()
     known = sorted(path.stem for path in (ROOT / "src" / "pages").glob("*.cpp"))
     unknown = [page for page in options.pages if page not in known]
@@ -144,7 +146,7 @@ def main():
     shop.build_targets([f"tst_{page}" for page in pages])
     all_killed, all_survivors = 0, 0
     for page in pages:
-        killed, survivors = check_page(shop, page, options.changes, random.Random(f"{options.seed} {page}"))
+        killed, survivors = check_page(shop, page, options.changes, options.jobs, random.Random(f"{options.seed} {page}"))
         print(f"{page}: {killed} of {killed + len(survivors)} noticed", flush=True)
         for survivor in survivors:
             print(f"    {survivor}", flush=True)
