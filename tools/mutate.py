@@ -13,6 +13,8 @@ import tempfile
 
 ROOT = pathlib.Path(__file__).resolve().parent.parent
 TEST_SECONDS = 60
+# What holds for every page. It takes long, and is asked when a page's own test has noticed nothing.
+COMMON_TEST = "tst_allPages"
 
 # What is found, and what may stand there instead. Only code is looked at: no comments, no preprocessor.
 OPERATORS = {" < ": [" <= "], " <= ": [" < "], " > ": [" >= "], " >= ": [" > "], " == ": [" != "], " != ": [" == "],
@@ -25,12 +27,15 @@ TOKEN = re.compile(
     r"|(?P<operator> (?:<=|>=|==|!=|&&|\|\||[<>+\-*/]) |\b(?:true|false)\b)"
     r"|(?P<negation>(?<=[( ])!(?=[\w(]))")
 COMMENT = re.compile(r"/\*.*?\*/|//[^\n]*|^ *#[^\n]*", re.S | re.M)
+# Where a text is translated shows in other languages only; the tests of the translations look at that.
+TRANSLATED_AT = re.compile(r'QT_TRANSLATE_NOOP\(\s*"[^"]*"')
 STATEMENT = re.compile(r"^ {4,}(?:return )?[\w>.\-:&()\*]+\([^;{}]*\);$", re.M)
 
 
 def code_only(text):
-    """The text with everything that is no code blanked, at the same places."""
-    return COMMENT.sub(lambda match: re.sub(r"[^\n]", " ", match.group()), text)
+    """The text with everything blanked that is not to be changed, at the same places."""
+    blank = lambda match: re.sub(r"[^\n]", " ", match.group())
+    return TRANSLATED_AT.sub(blank, COMMENT.sub(blank, text))
 
 
 def number_beside(number):
@@ -91,10 +96,12 @@ class Workshop:
         return sorted((self.build / "src" / "CMakeFiles" / "melvox_ui.dir").rglob("*.o"))
 
     def notices(self, test, source, text):
-        """Does the test fail with another text of a source? Nothing when that does not compile."""
+        """Does a test fail with another text of a source? Nothing when that does not compile."""
         with tempfile.TemporaryDirectory(prefix="mutate-") as folder:
             library = self.library_with(source, text, pathlib.Path(folder))
-            return None if library is None else not self.passes(test, library)
+            if library is None:
+                return None
+            return not self.passes(test, library) or not self.passes(COMMON_TEST, library)
 
     def passes(self, test, library):
         environment = dict(self.environment, LD_PRELOAD=str(library)) if library else self.environment
@@ -143,7 +150,9 @@ def main():
         parser.error(f"there is no page {unknown[0]}; the pages are: {', '.join(known)}")
     pages = options.pages or known
     shop = Workshop(options.build.resolve())
-    shop.build_targets([f"tst_{page}" for page in pages])
+    shop.build_targets([COMMON_TEST, *(f"tst_{page}" for page in pages)])
+    if not shop.passes(COMMON_TEST, None):
+        sys.exit(f"mutate: {COMMON_TEST} fails as it is; mend that first")
     all_killed, all_survivors = 0, 0
     for page in pages:
         killed, survivors = check_page(shop, page, options.changes, options.jobs, random.Random(f"{options.seed} {page}"))

@@ -43,8 +43,7 @@ void melvoxUiFirmwareVersionDisplay_t::updateText()
         return;
     QTextCharFormat bold;
     bold.setFontWeight(QFont::Bold);
-    QTextCharFormat normal;
-    normal.setFontWeight(QFont::Normal);
+    QTextCharFormat const normal;
     QTextCursor cursor(m_data->textEdit->document());
     for (melvoxFirmwareVersion_t const& version : m_data->device->firmwareVersions())
     {

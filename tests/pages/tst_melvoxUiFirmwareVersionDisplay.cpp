@@ -27,6 +27,7 @@ private slots:
     void showsEachVersionInTheReceiversOrder();
     void rebuildsTheTextWithEachReport();
     void showsNamesBoldAndVersionsNormal();
+    void doesNotScrollTheReaderAway_data();
     void doesNotScrollTheReaderAway();
 };
 
@@ -97,14 +98,27 @@ void tst_melvoxUiFirmwareVersionDisplay::showsNamesBoldAndVersionsNormal()
     }
 }
 
+void tst_melvoxUiFirmwareVersionDisplay::doesNotScrollTheReaderAway_data()
+{
+    QTest::addColumn<bool>("shown");
+    QTest::newRow("of a page on the screen") << true;
+    QTest::newRow("of a page that comes on the screen later") << false;
+}
+
 void tst_melvoxUiFirmwareVersionDisplay::doesNotScrollTheReaderAway()
 {
+    QFETCH(bool, shown);
     QTextEdit box;
     box.resize(100, 60);
-    box.show();
+    if (shown)
+        box.show();
     melvoxUiFirmwareVersionDisplay_t const display(device, &box, 0);
     for (int i = 0; i < 30; ++i)
         tell(qPrintable(QString("COMPONENT%1").arg(i)), "1.0");
+    box.show();
+    melvox_test::settle();
+    QCOMPARE(box.verticalScrollBar()->value(), 0);
+    box.setFocus();
     melvox_test::settle();
     QCOMPARE(box.verticalScrollBar()->value(), 0);
     box.resize(120, 70); // which brings the box's cursor into view

@@ -13,6 +13,9 @@ using namespace brel_common_qt_gui;
 namespace
 {
 
+char const* const NOT_CHANGED = "The line settings of COM1 were not changed: the display's own link is no serial line, "
+                                "or its settings are not known";
+
 melvoxSerialPortConfig_t serialConfig(unsigned int baud, charSize_t charSize, parity_t parity, stopBits_t stopBits)
 {
     melvoxSerialPortConfig_t const config = {baud, charSize, parity, stopBits};
@@ -278,7 +281,7 @@ void tst_melvoxUiPhysicalPortConfigDialog::sendsACommandForAnyOtherPortOverASeri
 
 void tst_melvoxUiPhysicalPortConfigDialog::changesNothingForTheActivePortOfALinkWithoutALine()
 {
-    melvox_test::expectWarning("line settings of COM1 were not changed");
+    melvox_test::expectWarning(NOT_CHANGED);
     receiver->report("activePort", 0);
     melvoxUiPhysicalPortConfigDialog_t dialog(device, 0);
     dialog.setPort(MELVOX_PORT_COM1);
@@ -291,7 +294,7 @@ void tst_melvoxUiPhysicalPortConfigDialog::changesNothingForTheActivePortOfALink
 
 void tst_melvoxUiPhysicalPortConfigDialog::changesNothingForTheActivePortOfALineThatIsNotKnown()
 {
-    melvox_test::expectWarning("line settings of COM1 were not changed");
+    melvox_test::expectWarning(NOT_CHANGED);
     melvox_link::scriptedLink_t link;
     remoteMelvoxDevice_t serial(melvox_kit::createPort(&link, melvox_kit::LINK_SERIAL));
     link.report("activePort", 0);
