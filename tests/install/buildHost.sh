@@ -34,7 +34,7 @@ build_pkgconfig() {
         more=
         flags=$(pkg-config --cflags --libs "melvox_kit_qt$QT >= 0.1")
     else
-        more="-L$foreign/lib -lbrel_common_qt_gui -lbrel_common_qt -lqdconfig"
+        more="-I$foreign/include -L$foreign/lib -lbrel_common_qt_gui -lbrel_common_qt -lqdconfig"
         flags=$(pkg-config --cflags --libs "melvox_ui_qt$QT >= 0.1")
     fi
     folders=$(printf ' -I%s' $INCLUDES)

@@ -1,11 +1,7 @@
 #include "../platform.h"
 
 #include <brel_common_qt/remoteMelvoxDevice.h>
-
-namespace foreign
-{
-brel_common_qt::remotePort_t* createPort();
-}
+#include <foreignPort.h>
 
 brel_common_qt::remotePort_t* host::createPort()
 {
