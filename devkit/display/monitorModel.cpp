@@ -35,7 +35,10 @@ QString ageText(qint64 milliseconds)
     qint64 const age = qMax<qint64>(0, milliseconds);
     qint64 const seconds = age / 1000;
     if (seconds < 60)
-        return monitorModel_t::tr("%1 s").arg(double(age / 100) / 10.0, 0, 'f', 1);
+    {
+        qint64 const tenths = age / 100;
+        return monitorModel_t::tr("%1 s").arg(double(tenths) / 10.0, 0, 'f', 1);
+    }
     if (seconds < 3600)
         return monitorModel_t::tr("%1 min %2 s").arg(seconds / 60).arg(seconds % 60, 2, 10, QChar('0'));
     return monitorModel_t::tr("%1 h %2 min").arg(seconds / 3600).arg(seconds / 60 % 60, 2, 10, QChar('0'));

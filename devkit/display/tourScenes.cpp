@@ -1,5 +1,6 @@
 #include "display/tourScenes.h"
 
+#include "brel_common_qt/melvoxFirmware.h"
 #include "brel_common_qt/remoteMelvoxDevice.h"
 #include "brel_common_qt/usbDriveManager.h"
 #include "display/dialogHost.h"
@@ -9,7 +10,7 @@
 #include <QAbstractButton>
 #include <QComboBox>
 #include <QDialog>
-#include <QDir>
+#include <QDirIterator>
 #include <QLabel>
 #include <QLineEdit>
 #include <QProgressBar>
@@ -19,6 +20,29 @@ namespace melvox_display
 {
 
 using brel_common_qt::usbDriveManager_t;
+
+namespace
+{
+
+QString neededFile(scene_t::need_t need)
+{
+    switch (need)
+    {
+    case scene_t::PROFILE:
+        return "profile*.melvox";
+    case scene_t::WEB_UI:
+        return "*." + brel_common_qt::MelvoxWebUiPackageFileSuffix;
+    case scene_t::FIRMWARE:
+    case scene_t::LAST:
+        return "*." + brel_common_qt::SrecFileSuffix;
+    case scene_t::NOTHING:
+    case scene_t::DRIVE:
+        break;
+    }
+    return QString();
+}
+
+} // namespace
 
 QList<scene_t> const& tourScenes()
 {
@@ -36,10 +60,10 @@ QList<scene_t> const& tourScenes()
             "row physicalTreeWidget 1", "press Configure Port", "shoot physicalPortConfigDialog", "press Cancel",
             "press Virtual", "row virtualTreeWidget 0", "shoot virtualPorts",
             "press Configure Port", "shoot virtualPortConfigDialog", "press Cancel", "press Physical"}},
-        {"webInterface", scene_t::DRIVE, {
+        {"webInterface", scene_t::WEB_UI, {
             "press Select Package", "row driveTreeWidget 0", "shoot usbDriveSelectDialog", "press Select",
             "row treeWidget 0", "shoot usbWebUiSelectDialog", "press Cancel"}},
-        {"firmwareUpdate", scene_t::DRIVE, {
+        {"firmwareUpdate", scene_t::FIRMWARE, {
             "press Select Package", "row driveTreeWidget 0", "press Select",
             "row treeWidget 0", "shoot usbFirmwareSelectDialog", "press Select Package",
             "row packageTreeWidget 0", "shoot package"}},
@@ -70,8 +94,11 @@ bool isMet(scene_t::need_t need)
         return true;
     if (!manager || manager->drives().isEmpty())
         return false;
-    QDir const drive(manager->drives().first().mountPoint);
-    return need != scene_t::PROFILE || !drive.entryList({"profile*.melvox"}, QDir::Files).isEmpty();
+    QString const file = neededFile(need);
+    // The scenes take the first drive.
+    return file.isEmpty() ||
+           QDirIterator(manager->drives().first().mountPoint, {file}, QDir::Files, QDirIterator::Subdirectories)
+               .hasNext();
 }
 
 QWidget* tourHands_t::top() const

@@ -19,9 +19,11 @@ struct scene_t
     enum need_t
     {
         NOTHING,
-        DRIVE,   //!< a USB drive
-        PROFILE, //!< a USB drive with a profile file that can be loaded
-        LAST     //!< a USB drive, and nobody who wants to go on afterwards
+        DRIVE,    //!< a USB drive
+        PROFILE,  //!< a USB drive with a profile file that can be loaded
+        WEB_UI,   //!< a USB drive with a package for the web interface
+        FIRMWARE, //!< a USB drive with a firmware package
+        LAST      //!< likewise, and nobody who wants to go on afterwards
     };
 
     QString page;

@@ -3,9 +3,11 @@
 #include "display/dialogHost.h"
 #include "display/displayStyle.h"
 #include "display/displayWindow.h"
+#include "display/driveRack.h"
 #include "display/keypad.h"
 #include "display/screen.h"
 #include "display/tour.h"
+#include "display/tourScenes.h"
 #include "display/uiSettings.h"
 #include "display/unit.h"
 #include "link/localLink.h"
@@ -18,6 +20,7 @@
 #include <QComboBox>
 #include <QDialogButtonBox>
 #include <QDir>
+#include <QFileInfo>
 #include <QImage>
 #include <QLabel>
 #include <QMessageBox>
@@ -187,6 +190,37 @@ private slots:
             QVERIFY2(!found.isEmpty(), qPrintable("no picture of " + part));
             QCOMPARE(QImage(pictures.filePath(found.first())).size(), QSize(800, 480));
         }
+    }
+
+    void tourPlaysScenesOnlyWithDrivesThatHaveTheirFiles_data()
+    {
+        QTest::addColumn<int>("need");
+        QTest::addColumn<QString>("file");
+        QTest::newRow("profile") << int(scene_t::PROFILE) << "profile1.melvox";
+        QTest::newRow("web package") << int(scene_t::WEB_UI) << "pages.WEBUI";
+        QTest::newRow("firmware") << int(scene_t::FIRMWARE) << "releases/new/combined.srec";
+        QTest::newRow("firmware, at the end") << int(scene_t::LAST) << "nav.srec";
+    }
+
+    void tourPlaysScenesOnlyWithDrivesThatHaveTheirFiles()
+    {
+        QFETCH(int, need);
+        QFETCH(QString, file);
+        scene_t::need_t const files = scene_t::need_t(need);
+        QTemporaryDir folder;
+        driveRack_t rack(folder.path());
+        QVERIFY(rack.open());
+        QVERIFY(isMet(scene_t::NOTHING));
+        QVERIFY(!isMet(scene_t::DRIVE));
+        QVERIFY(!isMet(files));
+        QVERIFY(rack.plugIn("stick", {{"readme.txt", "nothing"}}));
+        QVERIFY(melvox_test::waitFor([]() { return isMet(scene_t::DRIVE); }));
+        QVERIFY(!isMet(files));
+        QFileInfo const place(folder.filePath("stick/" + file));
+        QVERIFY(QDir().mkpath(place.path()));
+        QFile written(place.filePath());
+        QVERIFY(written.open(QIODevice::WriteOnly));
+        QVERIFY(isMet(files));
     }
 
     void tourThatCannotWriteFails()
