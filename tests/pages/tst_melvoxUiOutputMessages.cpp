@@ -180,6 +180,7 @@ private slots:
     void asksNothingWhenNoMessageIsSelected();
     void disablesNothingUnlessTheAnswerIsYes_data();
     void disablesNothingUnlessTheAnswerIsYes();
+    void disablesNothingWhenNothingIsSelectedAnyMore();
     void disablesAllMessagesOfThePortAfterAYes();
     void disablesNotAllUnlessTheAnswerIsYes_data();
     void disablesNotAllUnlessTheAnswerIsYes();
@@ -1023,6 +1024,19 @@ void tst_melvoxUiOutputMessages::disablesNothingUnlessTheAnswerIsYes()
     QVERIFY(receiver->sent().isEmpty());
     QCOMPARE(outputText(&page, "NMEAGGA"), QString("Interval 1.00(1)"));
     QCOMPARE(selectedMessages(&page), QStringList("NMEAGGA"));
+}
+
+void tst_melvoxUiOutputMessages::disablesNothingWhenNothingIsSelectedAnyMore()
+{
+    melvoxUiOutputMessages_t page(device);
+    choosePort(&page);
+    reportOutput(OTHER_PORT, "NMEAGGA", 1, 1.0);
+    select(&page, "NMEAGGA");
+    tapIn(&page, "messagesButtonBox", "Disable");
+    treeOf(&page)->clearSelection();
+    answer(QMessageBox::Yes);
+    QVERIFY(receiver->sent().isEmpty());
+    QCOMPARE(outputText(&page, "NMEAGGA"), QString("Interval 1.00(1)"));
 }
 
 void tst_melvoxUiOutputMessages::disablesAllMessagesOfThePortAfterAYes()
