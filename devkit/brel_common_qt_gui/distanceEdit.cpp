@@ -26,7 +26,11 @@ int const DECIMALS = 4;
 
 struct distanceEdit_t::privateData_t
 {
-    privateData_t() : field(nullptr), unitLabel(nullptr), value(0), committed(0), shown(0), filling(false) {}
+    privateData_t()
+        : field(nullptr), unitLabel(nullptr), unit(DISTANCE_UNIT_METER), value(0), committed(0), shown(0),
+          filling(false)
+    {
+    }
 
     QLineEdit* field;
     QLabel* unitLabel;

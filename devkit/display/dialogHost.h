@@ -32,7 +32,7 @@ public:
 
     /** The page below all dialogs; already in the area. */
     void setPage(QWidget* view);
-    QWidget* page() const { return m_page; }
+    QWidget* page() const { return m_page.data(); }
 
     /** The dialog on top, null for none; cards do not count. */
     QDialog* currentDialog() const;

@@ -213,8 +213,8 @@ void lineEntry_t::replace(QLineEdit* lineEdit, QString const& text)
 {
     QPointer<QLineEdit> const edit = lineEdit;
     // As an edit, not setText(): composites follow textEdited() and must hear that the text is another one.
-    edit->selectAll();
-    edit->del();
+    lineEdit->selectAll();
+    lineEdit->del();
     if (edit && isShownWhole(edit))
         insertUnderMask(edit, text);
     else if (edit)

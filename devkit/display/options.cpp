@@ -57,7 +57,7 @@ QString listOfOptions()
 {
     QStringList names;
     for (QCommandLineOption const& option : knownOptions())
-        names << "--" + option.names().last();
+        names << "--" + option.names().constLast();
     return names.join(", ");
 }
 
@@ -294,7 +294,7 @@ QString helpText(QStringList const& pages)
                    tr("The display unit of a machine with a Melvox receiver.") + "\n\n";
     for (QCommandLineOption const& option : knownOptions())
     {
-        QString const head = "--" + option.names().last() + " " + option.valueName();
+        QString const head = "--" + option.names().constLast() + " " + option.valueName();
         text += "  " + head.leftJustified(24) + option.description() + "\n";
     }
     return text + "\n" + tr("Pages: %1").arg(pages.join(", ")) + "\n";

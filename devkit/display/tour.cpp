@@ -72,14 +72,24 @@ QString answerTo(QString const& group)
     return group;
 }
 
+QString withSmallStart(QString name)
+{
+    if (!name.isEmpty())
+        name[0] = name.at(0).toLower();
+    return name;
+}
+
 /** "Confirm Delete" gives "confirmDelete". */
 QString titleAsName(QString const& title)
 {
+    static QRegularExpression const noLetter("\\W");
     QString name;
-    for (QString const& word : title.split(' '))
-        name += word.left(1).toUpper() + word.mid(1);
-    name.remove(QRegularExpression("\\W"));
-    return name.left(1).toLower() + name.mid(1);
+    for (QString word : title.split(' ', Qt::SkipEmptyParts))
+    {
+        word[0] = word.at(0).toUpper();
+        name += word.remove(noLetter);
+    }
+    return withSmallStart(name);
 }
 
 /** Of its class, or its title where many are of one class. */
@@ -92,7 +102,7 @@ QString shortName(QDialog const* object)
         name.remove(0, 8);
     if (name.endsWith("_t"))
         name.chop(2);
-    return name.isEmpty() ? name : name.left(1).toLower() + name.mid(1);
+    return withSmallStart(name);
 }
 
 /** Whether all that a page has to tell is missing still. */
@@ -159,7 +169,7 @@ tour_t::tour_t(displayWindow_t& window, unit_t& unit, QString const& folder)
     : m_window(window), m_unit(unit), m_screen(*window.screen()), m_hands(m_screen, unit), m_folder(folder),
       m_numericShown(false), m_fullShown(false), m_count(0), m_faults(0)
 {
-    m_listening = QObject::connect(m_unit.tap(), &melvox_link::linkTap_t::passed,
+    m_listening = QObject::connect(m_unit.tap(), &melvox_link::linkTap_t::passed, m_unit.tap(),
                                    [this](melvox_link::message_t const& message, bool fromDisplay)
                                    { note(message, fromDisplay); });
 }

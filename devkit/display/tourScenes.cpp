@@ -97,7 +97,7 @@ bool isMet(scene_t::need_t need)
     QString const file = neededFile(need);
     // The scenes take the first drive.
     return file.isEmpty() ||
-           QDirIterator(manager->drives().first().mountPoint, {file}, QDir::Files, QDirIterator::Subdirectories)
+           QDirIterator(manager->drives().constFirst().mountPoint, {file}, QDir::Files, QDirIterator::Subdirectories)
                .hasNext();
 }
 

@@ -15,7 +15,7 @@ inline QString misunderstood(QString fault, QList<QCommandLineOption> const& opt
         fault.chop(1);
     QStringList names;
     for (QCommandLineOption const& option : options)
-        names << "--" + option.names().last();
+        names << "--" + option.names().constLast();
     return QCoreApplication::translate("programs", "%1. The options are: %2.").arg(fault, names.join(", "));
 }
 

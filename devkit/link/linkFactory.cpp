@@ -15,7 +15,7 @@ int const DEFAULT_BAUD = 115200;
 
 link_t* makeTcpLink(QString const& address, QString& error, QObject* parent)
 {
-    QRegularExpression const form("^(?:\\[([0-9A-Fa-f:.]+)\\]|([^:]+)):([0-9]{1,5})$");
+    static QRegularExpression const form("^(?:\\[([0-9A-Fa-f:.]+)\\]|([^:]+)):([0-9]{1,5})$");
     QRegularExpressionMatch const match = form.match(address);
     unsigned int const port = match.captured(3).toUInt();
     if (!match.hasMatch() || port < 1 || port > 65535)
@@ -31,7 +31,7 @@ link_t* makeTcpLink(QString const& address, QString& error, QObject* parent)
 
 link_t* makeSerialLink(QString const& text, QString& error, QObject* parent)
 {
-    QRegularExpression const form("^([^@]+)(?:@([1-9][0-9]{2,6}))?$");
+    static QRegularExpression const form("^([^@]+)(?:@([1-9][0-9]{2,6}))?$");
     QRegularExpressionMatch const match = form.match(text);
     if (!match.hasMatch())
     {

@@ -25,6 +25,12 @@ QVariantMap userSatellite(int id)
             {"flagA", false}, {"flagC", false}};
 }
 
+QVariantMap almanacFrom(qint64 milliseconds)
+{
+    qint64 const seconds = milliseconds / SECOND;
+    return {{"updateTime", double(seconds)}};
+}
+
 bool contains(QVariantList const& satellites, int id)
 {
     for (QVariant const& satellite : satellites)
@@ -42,8 +48,7 @@ corrections_t::corrections_t(receiver_t& owner)
       m_almanacCameAt(owner.clock().now())
 {
     // The last almanac came yesterday, whenever the receiver is started.
-    receiver.change("mrvAlmanacInfo",
-                    QVariantMap{{"updateTime", double((receiver.clock().now() - BETWEEN_ALMANACS) / SECOND)}});
+    receiver.change("mrvAlmanacInfo", almanacFrom(receiver.clock().now() - BETWEEN_ALMANACS));
 }
 
 behaviour_t::answer_t corrections_t::command(link_t*, QString const& group, QVariant const&)
@@ -222,7 +227,7 @@ void corrections_t::useNewAlmanac()
 {
     if (!receiver.setting("starfireAlmStatus").toMap().value("newReady").toBool())
         return;
-    receiver.change("mrvAlmanacInfo", QVariantMap{{"updateTime", double(receiver.clock().now() / SECOND)}});
+    receiver.change("mrvAlmanacInfo", almanacFrom(receiver.clock().now()));
     receiver.change("starfireAlmStatus", QVariantMap{{"newReady", false}});
 }
 

@@ -267,8 +267,8 @@ int main(int argc, char** argv)
         parser.showHelp();
     if (!parser.positionalArguments().isEmpty())
         return fail(EXIT_WRONG_USE,
-                    melvox_firmware::misunderstood(tr("\"%1\" is no option").arg(parser.positionalArguments().first()),
-                                                   knownOptions()));
+                    melvox_firmware::misunderstood(
+                        tr("\"%1\" is no option").arg(parser.positionalArguments().constFirst()), knownOptions()));
     if (!parser.isSet("tcp") && !parser.isSet("pty") && !parser.isSet("serial"))
         return fail(EXIT_WRONG_USE, tr("say where displays reach the receiver, with --tcp PORT, --pty or --serial "
                                        "DEVICE."));

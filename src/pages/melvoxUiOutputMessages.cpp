@@ -592,14 +592,14 @@ void melvoxUiOutputMessages_t::queryGeneralSettings()
 
 void melvoxUiOutputMessages_t::saveUiSettings(qdconfig::config_t* cfg, std::string prefix)
 {
-    cfg->setValue(prefix + SHOW_DTM_WARNING_KEY, qdconfig::qdConfigEncode(m_data->device->showDtmWarning()));
+    cfg->setValue(prefix.append(SHOW_DTM_WARNING_KEY), qdconfig::qdConfigEncode(m_data->device->showDtmWarning()));
 }
 
 void melvoxUiOutputMessages_t::loadUiSettings(qdconfig::config_t* cfg, std::string prefix)
 {
     std::string text;
     bool show = true;
-    if (cfg->getValue(prefix + SHOW_DTM_WARNING_KEY, text) && qdconfig::qdConfigDecode(text, show))
+    if (cfg->getValue(prefix.append(SHOW_DTM_WARNING_KEY), text) && qdconfig::qdConfigDecode(text, show))
         m_data->device->setShowDtmWarning(show);
 }
 

@@ -16,9 +16,9 @@ class pageTest_t : public test_t
     Q_OBJECT
 
 protected:
-    void setUp();
+    void setUp() override;
     /** A message box that is still open is one that the test did not expect. */
-    void tearDown();
+    void tearDown() override;
 
     /** Speaks as the receiver: receiver->report("elevationMask", 10.0); and reads what it was sent. */
     melvox_link::scriptedLink_t* receiver;
