@@ -1,14 +1,19 @@
-"""Runs benchmark programs and prints medians as ratios: ratios.py [--write] REPETITIONS PROGRAM...
+"""Runs benchmark programs and prints medians as ratios: ratios.py [--write] ROUNDS PROGRAM...
+
+A round runs each program once. What is compared is taken from one round, as the clock of the machine may have another pace
+in the next, and the median of the rounds' ratios is shown.
 
 A measurement "a/b" is held against "a/b/bare"; one named "a/b/1000" with a smaller twin "a/b/10" is also shown per row.
 Where other threads or programs do the work, the name ends in "/real_time" and the clock on the wall counts.
 """
 import json
+import statistics
 import subprocess
 import sys
 
 import document
 
+REPETITIONS = 5  # in one round
 LIMITS = {"buildPage": 1.25, "report": 2.0, "scanSrecord": 0.1, "scanDrive": 1.5}
 MEDIAN_PAGE_LIMIT = 1.15
 ROW_LIMIT = 1.3
@@ -17,9 +22,9 @@ WALL = "/real_time"
 MICROSECONDS = {"ns": 1e-3, "us": 1, "ms": 1e3, "s": 1e6}
 
 
-def medians(program, repetitions, held):
+def measure(program, held):
     out = subprocess.run(
-        [program, f"--benchmark_repetitions={repetitions}", "--benchmark_report_aggregates_only=true",
+        [program, f"--benchmark_repetitions={REPETITIONS}", "--benchmark_report_aggregates_only=true",
          "--benchmark_format=json", "--benchmark_enable_random_interleaving=true", "--benchmark_min_time=0.02"],
         check=True, stdout=subprocess.PIPE, text=True).stdout
     for run in json.loads(out)["benchmarks"]:
@@ -35,6 +40,10 @@ def number(value):
     return f"{value:.1f}" if value != "" else ""
 
 
+def compare(times, others, factor=1):
+    return statistics.median(time / other * factor for time, other in zip(times, others))
+
+
 def against_bare(times):
     """Rows of what has a bare twin, and the ratio of the median page."""
     built = []
@@ -44,10 +53,10 @@ def against_bare(times):
             continue
         kind = name.split("/")[0]
         if kind == "buildPage":
-            built.append(time / bare)
-        yield name, time, bare, time / bare, LIMITS.get(kind, "")
+            built.append(compare(time, bare))
+        yield name, statistics.median(time), statistics.median(bare), compare(time, bare), LIMITS.get(kind, "")
     if built:
-        yield "buildPage, the median page", "", "", sorted(built)[len(built) // 2], MEDIAN_PAGE_LIMIT
+        yield "buildPage, the median page", "", "", statistics.median(built), MEDIAN_PAGE_LIMIT
 
 
 def against_ten(times):
@@ -55,8 +64,8 @@ def against_ten(times):
     for name, time in times.items():
         base, _, rows = name.rpartition("/")
         if rows.isdigit() and rows != "10" and f"{base}/10" in times:
-            ratio = (time / int(rows)) / (times[f"{base}/10"] / 10)
-            yield f"{name}, per row against 10", time, "", ratio, ROW_LIMIT
+            ratio = compare(time, times[f"{base}/10"], 10 / int(rows))
+            yield f"{name}, per row against 10", statistics.median(time), "", ratio, ROW_LIMIT
 
 
 def table(rows, held):
@@ -70,13 +79,17 @@ def table(rows, held):
 
 
 def main():
-    words = [word for word in sys.argv[1:] if word != "--write"]
-    if int(words[0]) < 2:
-        sys.exit("ratios: a median takes at least 2 repetitions")
+    rounds, *programs = [word for word in sys.argv[1:] if word != "--write"]
+    if int(rounds) < 1:
+        sys.exit("ratios: there must be a round at least")
     times = {}
     held = {}
-    for program in words[1:]:
-        times.update(medians(program, int(words[0]), held))
+    for _ in range(int(rounds)):
+        for program in programs:
+            for name, time in measure(program, held):
+                times.setdefault(name, []).append(time)
+    # The programs measure in an order drawn anew each time.
+    times = dict(sorted(times.items()))
     text = "\n".join(table([*against_bare(times), *against_ten(times)], held))
     print(text)
     if "--write" in sys.argv:
