@@ -4,6 +4,7 @@
 
 #include <QHBoxLayout>
 #include <QLabel>
+#include <QPainter>
 #include <QStyle>
 #include <QToolButton>
 #include <QVariant>
@@ -44,6 +45,22 @@ QToolButton* createTool(QString const& name, QString const& text, QString const&
     return button;
 }
 
+/** Ends in an ellipsis when there is too little room, as beside a long state on a small screen. */
+class shortenedLabel_t : public QLabel
+{
+public:
+    using QLabel::QLabel;
+
+protected:
+    void paintEvent(QPaintEvent*) override
+    {
+        QPainter painter(this);
+        QRect const place = contentsRect();
+        style()->drawItemText(&painter, place, int(alignment()), palette(), isEnabled(),
+                              fontMetrics().elidedText(text(), Qt::ElideRight, place.width()), foregroundRole());
+    }
+};
+
 bool isBad(linkState_t state)
 {
     return state == linkState_t::INTERRUPTED || state == linkState_t::RECONNECTING;
@@ -53,7 +70,7 @@ bool isBad(linkState_t state)
 
 statusStrip_t::statusStrip_t(QWidget* parent)
     : QFrame(parent), m_simulated(new QLabel(tr("SIMULATED RECEIVER"), this)), m_state(new QLabel(this)),
-      m_description(new QLabel(this)),
+      m_description(new shortenedLabel_t(this)),
       m_panel(createTool("panelButton", tr("Receiver"), tr("Receiver panel (F11)"), glyph_t::PANEL, this)),
       m_monitor(createTool("monitorButton", tr("Monitor"), tr("Link monitor (F12)"), glyph_t::MONITOR, this))
 {
@@ -93,6 +110,7 @@ void statusStrip_t::setLink(QString const& description, linkState_t state)
 {
     m_state->setText(textOf(state));
     m_description->setText(description);
+    m_description->setToolTip(description);
     setProperty("interrupted", isBad(state));
     for (QWidget* widget :
          {static_cast<QWidget*>(this), static_cast<QWidget*>(m_state), static_cast<QWidget*>(m_description),

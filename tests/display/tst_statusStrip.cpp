@@ -51,6 +51,26 @@ private slots:
         QCOMPARE(ground.red() > 150 && ground.green() < 80, warns);
     }
 
+    void shortensADescriptionThatDoesNotFit()
+    {
+        applyDisplayStyle(*qApp);
+        statusStrip_t strip;
+        strip.setSimulated(true);
+        strip.resize(600, 40);
+        strip.show();
+        QString const description("tcp:receiver-on-the-roof.example.org:5000");
+        strip.setLink(description, linkState_t::INTERRUPTED);
+        QLabel* const label = strip.findChild<QLabel*>("linkDescriptionLabel");
+        QString const shortened = label->fontMetrics().elidedText(description, Qt::ElideRight, label->width());
+        QVERIFY(shortened != description && shortened.size() > 3);
+        QImage const shown = strip.grab().toImage();
+        QCOMPARE(label->toolTip(), description);
+        strip.setLink(shortened, linkState_t::INTERRUPTED);
+        QCOMPARE(strip.grab().toImage(), shown);
+        strip.setLink(description.left(shortened.size() - 1), linkState_t::INTERRUPTED);
+        QVERIFY(strip.grab().toImage() != shown);
+    }
+
     void monitorButtonAsksForTheMonitor()
     {
         statusStrip_t strip;
