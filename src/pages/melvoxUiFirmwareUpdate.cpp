@@ -121,7 +121,7 @@ void orphanedLock_t::updateFirmwareUpdateState(firmwareUpdateState_t state)
 
 melvoxUiFirmwareUpdate_t::privateData_t::privateData_t(remoteMelvoxDevice_t* device_)
     : device(device_), versionDisplay(nullptr), selector(nullptr), package(nullptr), disabled(false),
-      lockPending(false), productCode(PRODUCT_CODE), startButton(nullptr), toggleButton(nullptr),
+      lockPending(false), started(false), productCode(PRODUCT_CODE), startButton(nullptr), toggleButton(nullptr),
       successDialog(nullptr), failureDialog(nullptr)
 {
 }
@@ -160,7 +160,7 @@ melvoxUiFirmwareUpdate_t::melvoxUiFirmwareUpdate_t(remoteMelvoxDevice_t* device)
 melvoxUiFirmwareUpdate_t::~melvoxUiFirmwareUpdate_t()
 {
     // Nobody else would give the lock back.
-    if (m_data->lockPending && m_data->device->port()->lockState() == PORT_LOCK_PLUGIN)
+    if (m_data->lockPending && m_data->started)
         new orphanedLock_t(m_data->device);
     else if (m_data->lockPending)
         m_data->device->port()->setLockState(PORT_LOCK_NONE);
@@ -323,6 +323,7 @@ void melvoxUiFirmwareUpdate_t::enterStatusMode()
     ui.stackedWidget->setCurrentWidget(ui.progressPage);
     ui.progressButtonBox->button(QDialogButtonBox::Ok)->setEnabled(false);
     m_data->lockPending = true;
+    m_data->started = false;
     m_data->device->port()->setLockState(PORT_LOCK_PLUGIN);
 }
 
@@ -351,6 +352,7 @@ void melvoxUiFirmwareUpdate_t::startUpdate()
                                                            combined ? std::string() : item->path};
         components << component;
     }
+    m_data->started = true;
     m_data->device->startFirmwareUpdate(components, combinedPath);
 }
 

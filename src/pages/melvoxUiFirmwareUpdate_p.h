@@ -75,6 +75,7 @@ struct MELVOX_UI_HIDDEN melvoxUiFirmwareUpdate_t::privateData_t
     melvoxUiFirmwarePackage_t* package;               //!< owned; null until one was chosen
     bool disabled;
     bool lockPending; //!< from the request for the lock until the update has ended
+    bool started;     //!< whether the receiver was asked to update since the lock was asked for
     int productCode;
     QPushButton* startButton;
     QPushButton* toggleButton;

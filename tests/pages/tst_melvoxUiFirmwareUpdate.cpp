@@ -104,6 +104,7 @@ private slots:
     void rebootsHoweverTheOutcomeIsClosed();
     void okGoesBackToThePackageWithEverythingKept();
     void survivesBeingDestroyedDuringAnUpdate();
+    void givesTheLockBackWhenItIsDestroyedBeforeItsUpdateStarts_data();
     void givesTheLockBackWhenItIsDestroyedBeforeItsUpdateStarts();
     void leavesTheLockToItsUpdateUntilTheOutcome_data();
     void leavesTheLockToItsUpdateUntilTheOutcome();
@@ -809,10 +810,19 @@ void tst_melvoxUiFirmwareUpdate::survivesBeingDestroyedDuringAnUpdate()
     QVERIFY(!openBox());
 }
 
+void tst_melvoxUiFirmwareUpdate::givesTheLockBackWhenItIsDestroyedBeforeItsUpdateStarts_data()
+{
+    QTest::addColumn<int>("lockBefore");
+    QTest::newRow("no lock was held") << 0;
+    QTest::newRow("the receiver had told of such a lock before") << 2;
+}
+
 void tst_melvoxUiFirmwareUpdate::givesTheLockBackWhenItIsDestroyedBeforeItsUpdateStarts()
 {
+    QFETCH(int, lockBefore);
     openPage();
     choose(combined());
+    receiver->report("portLock", lockBefore);
     tap(page, "Start Update");
     receiver->clear();
     delete page;
