@@ -233,6 +233,7 @@ void tst_melvoxUiExtendedNavInfo::showsTheTideInWholeMillimetres_data()
     QTest::newRow("rounded down") << 0.0834 << "83";
     QTest::newRow("rounded up") << 0.0836 << "84";
     QTest::newRow("negative") << -0.25 << "-250";
+    QTest::newRow("more than any tide") << 12.345 << "12345";
     QTest::newRow("zero") << 0.0 << "0";
 }
 
