@@ -1,5 +1,6 @@
 #include "display/options.h"
 
+#include "firmware/programOptions.h"
 #include "scenarios/scenarioReader.h"
 
 #include <QCommandLineParser>
@@ -51,14 +52,6 @@ QList<QCommandLineOption> knownOptions()
         {QStringList{"h", "help"}, tr("Shows this text.")},
         {QStringList{"v", "version"}, tr("Shows the version.")},
     };
-}
-
-QString listOfOptions()
-{
-    QStringList names;
-    for (QCommandLineOption const& option : knownOptions())
-        names << "--" + option.names().constLast();
-    return names.join(", ");
 }
 
 /** Empty, or what is wrong. */
@@ -279,13 +272,11 @@ QString readValues(QCommandLineParser const& parser, QStringList const& pages, o
 QString misunderstood(QCommandLineParser const& parser)
 {
     QStringList const unknown = parser.unknownOptionNames();
-    if (!unknown.isEmpty())
-        return tr("There is no option \"%1\". The options are: %2.")
-            .arg((unknown.first().size() > 1 ? "--" : "-") + unknown.first(), listOfOptions());
-    QString text = parser.errorText();
-    if (!text.isEmpty() && !text.endsWith('.'))
-        text += '.';
-    return tr("%1 The options are: %2.").arg(text, listOfOptions());
+    QString const fault =
+        unknown.isEmpty()
+            ? parser.errorText()
+            : tr("There is no option \"%1\"").arg((unknown.first().size() > 1 ? "--" : "-") + unknown.first());
+    return melvox_firmware::misunderstood(fault, knownOptions());
 }
 
 QString helpText(QStringList const& pages)
@@ -324,7 +315,7 @@ parsedOptions_t parseOptions(QStringList const& arguments, QStringList const& pa
     QStringList const others = parser.positionalArguments();
     if (!others.isEmpty())
         return answer(parsedOptions_t::REFUSE,
-                      tr("\"%1\" is no option. The options are: %2.").arg(others.first(), listOfOptions()));
+                      melvox_firmware::misunderstood(tr("\"%1\" is no option").arg(others.first()), knownOptions()));
     parsedOptions_t parsed;
     parsed.text = readValues(parser, pages, parsed.options);
     parsed.result = parsed.text.isEmpty() ? parsedOptions_t::RUN : parsedOptions_t::REFUSE;

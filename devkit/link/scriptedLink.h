@@ -36,7 +36,7 @@ public:
     /** The receiver speaks: received() is out when this returns. Nothing passes while the link is closed. */
     void report(QString const& group, QVariant const& value = QVariant());
     void event(QString const& group, QVariant const& value = QVariant());
-    using link_t::event;
+    using link_t::event; // ours does not hide Qt's
 
     /** What was sent since the beginning or clear(), in order. */
     QList<message_t> const& messages() const; //!< as it was sent

@@ -85,7 +85,7 @@ public:
     void reportSetting(link_t* to, setting_t const& setting); //!< as it stands, all records of a keyed group
     void event(QString const& group, QVariant const& value = QVariant());
     void event(link_t* to, QString const& group, QVariant const& value = QVariant());
-    using QObject::event;
+    using QObject::event; // ours do not hide Qt's
     void wantTicks(behaviour_t* who, bool wanted);
     void putOut(unsigned int port, QByteArray const& bytes);
 
